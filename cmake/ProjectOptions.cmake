@@ -1,0 +1,42 @@
+# Options, warnings and instrumentation shared by every target of the project.
+
+option(VORN_BUILD_TESTS "Build the tests" ON)
+option(VORN_BUILD_BENCHMARKS "Build the benchmark programs" OFF)
+option(VORN_BUILD_FUZZERS "Build the fuzz targets (clang only)" OFF)
+option(VORN_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+set(VORN_SANITIZERS "" CACHE STRING "Sanitizers for every target, e.g. address,undefined")
+option(VORN_COVERAGE "Instrument for line coverage" OFF)
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+find_program(VORN_CCACHE ccache)
+if(VORN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${VORN_CCACHE}")
+endif()
+
+# Source names in failure texts are relative to the project's root, whatever machine built them.
+add_compile_options("-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
+
+if(VORN_SANITIZERS)
+    add_compile_options("-fsanitize=${VORN_SANITIZERS}" -fno-omit-frame-pointer
+        -fno-sanitize-recover=all)
+    add_link_options("-fsanitize=${VORN_SANITIZERS}")
+endif()
+if(VORN_COVERAGE)
+    add_compile_options(--coverage -O0)
+    add_link_options(--coverage)
+endif()
+
+# Warnings belong to the project's own targets; users of the installed headers choose theirs.
+add_library(vorn_warnings INTERFACE)
+target_compile_options(vorn_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    $<$<BOOL:${VORN_WARNINGS_AS_ERRORS}>:-Werror>)

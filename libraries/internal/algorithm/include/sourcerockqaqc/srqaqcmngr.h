@@ -1,0 +1,118 @@
+#pragma once
+
+#include "core/exception.h"
+#include "sourcerockqaqc/analysisdata.h"
+#include "sourcerockqaqc/grading.h"
+#include "sourcerockqaqc/machinelearningwriter.h"
+#include "sourcerockqaqc/srqaqcsettings.h"
+
+#include <fstream>
+#include <functional>
+#include <map>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace algo::sr_qaqc {
+
+/// The engine of the quality check: one record per raw signal, graded with the present settings.
+///
+/// Records are added and updated, never removed. Their order is that of the signals' addresses, not of
+/// arrival. One thread at a time; what the stages of the chain raise passes through.
+template <class Scalar, class Values>
+class SourceRockQAQCMgr {
+public:
+    using Settings = SourceRockQAQCSettings<Scalar, Values>;
+    using Record = AnalysisData<Scalar, Values>;
+    using SignalPointer = std::shared_ptr<const core::Signal1D<Scalar, Values>>;
+
+    /// The settings are shared: whoever changes them calls `update` next.
+    explicit SourceRockQAQCMgr(std::shared_ptr<const Settings> settings) : m_settings(std::move(settings)) {}
+    virtual ~SourceRockQAQCMgr() = default;
+
+    SourceRockQAQCMgr(const SourceRockQAQCMgr&) = delete;
+    SourceRockQAQCMgr& operator=(const SourceRockQAQCMgr&) = delete;
+
+    /// Grades `signal` and stores the record under it, with `name`. A signal that is there already is
+    /// graded again, and its record renamed.
+    std::shared_ptr<Record> addAnalysis(SignalPointer signal, const std::string& name) {
+        auto record = analyse(signal);
+        record->setName(name);
+        m_analyses[std::move(signal)] = record;
+        return record;
+    }
+
+    /// Grades `signal`: its own record, updated, where there is one, else a new one that isn't stored.
+    /// After a failure the record is what it was.
+    std::shared_ptr<Record> analyse(SignalPointer signal) {
+        auto grading = grade(signal, *m_settings);
+        const auto found = m_analyses.find(signal);
+        if (found == m_analyses.end()) {
+            return std::make_shared<Record>(std::string(), std::move(signal), std::move(grading.chromatogram),
+                                            std::move(grading.smoothed));
+        }
+        found->second->setSmoothed(std::move(grading.smoothed));
+        found->second->setChromatogram(std::move(grading.chromatogram));
+        return found->second;
+    }
+
+    /// Grades all analyses again with the present settings.
+    void update() {
+        for (auto& entry : m_analyses) {
+            entry.second = analyse(entry.second->signal());
+        }
+    }
+
+    /// The records that `filter` accepts.
+    std::vector<std::shared_ptr<const Record>> getAnalyses(std::function<bool(const Record&)> filter) const {
+        std::vector<std::shared_ptr<const Record>> passed;
+        for (const auto& entry : m_analyses) {
+            if (filter(*entry.second)) {
+                passed.push_back(entry.second);
+            }
+        }
+        return passed;
+    }
+
+    /// The quality code of the first analysis of that name. Raises for an unknown one.
+    int getQuality(const std::string name) const {
+        for (const auto& entry : m_analyses) {
+            if (entry.second->name() == name) {
+                return qualityCode(*entry.second->chromatogram());
+            }
+        }
+        ALGO_RAISE("can not find the analysis with name " + name);
+    }
+
+    /// Writes all analyses for machine learning, to a fixed file and with no word about it: on Windows
+    /// "c:/dataSR.txt", elsewhere "dataSR.txt" in the working directory.
+    void exportData() const {
+#ifdef _WIN32
+        std::ofstream file("c:/dataSR.txt");
+#else
+        std::ofstream file("dataSR.txt");
+#endif
+        exportData(file);
+    }
+
+    /// The same to a stream.
+    void exportData(std::ostream& stream) const {
+        MachineLearningWriter<Scalar, Values> writer(stream);
+        for (const auto& entry : m_analyses) {
+            writer.row(*entry.first);
+        }
+        writer.beginLabels();
+        for (const auto& entry : m_analyses) {
+            writer.label(getQuality(entry.second->name()));
+        }
+        writer.finish();
+    }
+
+private:
+    std::shared_ptr<const Settings> m_settings;
+    std::map<SignalPointer, std::shared_ptr<Record>> m_analyses;
+};
+
+} // namespace algo::sr_qaqc
