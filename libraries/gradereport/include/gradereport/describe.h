@@ -1,0 +1,16 @@
+#pragma once
+
+#include "gradereport/graderecord.h"
+#include "gradereport/nearestchange.h"
+
+namespace gradereport {
+
+/// Which curves a record carries; drawing needs them, a table doesn't.
+enum class Curves { leftOut, included };
+
+/// All that a grading says, as plain values: everything but the file's name, digest and warnings.
+/// `raw` is the signal that was graded.
+[[nodiscard]] GradeRecord describe(const Grading::Signal& raw, const Grading& grading,
+                                   const EngineSettings& settings, Curves curves);
+
+} // namespace gradereport
