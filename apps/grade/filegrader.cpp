@@ -1,0 +1,72 @@
+#include "filegrader.h"
+
+#include "digest.h"
+#include "gradereport/gradekind.h"
+#include "rockeval/channels.h"
+#include "rockeval/readbytes.h"
+#include "rockeval/readerror.h"
+#include "rockeval/signalreader.h"
+#include "sourcerockqaqc/grading.h"
+#include "sourcerockqaqc/rawsignal.h"
+
+#include <exception>
+#include <new>
+#include <utility>
+
+namespace grade {
+
+namespace {
+
+using Values = std::vector<double>;
+
+std::string warningText(const rockeval::Warning& warning) {
+    return warning.line == 0 ? warning.text : "line " + std::to_string(warning.line) + ": " + warning.text;
+}
+
+GradedFile graded(const std::string& path, const gradereport::EngineSettings& settings,
+                  gradereport::Curves curves) {
+    const std::string bytes = rockeval::readBytes(path);
+    const rockeval::RawSignal read = rockeval::readSignal(bytes, path);
+    const rockeval::Channels channels = rockeval::toChannels(read.curve);
+    if (channels.time.size() > maxPoints) {
+        throw rockeval::ReadError(path, 0,
+                                  "the curve has more than " + std::to_string(maxPoints) +
+                                      " points, which no pyrolysis takes; check what the file is");
+    }
+    auto signal = algo::sr_qaqc::rawSignal<double, Values>(channels.time.data(), channels.fid.data(),
+                                                           static_cast<int>(channels.time.size()));
+    const auto grading = algo::sr_qaqc::grade(signal, settings);
+
+    GradedFile file{gradereport::describe(*signal, grading, settings, curves), std::move(signal)};
+    file.record.file = path;
+    file.record.name = gradereport::fileNameOf(path);
+    file.record.sha256 = sha256(bytes);
+    for (const rockeval::Warning& warning : read.warnings) {
+        file.record.warnings.push_back(warningText(warning));
+    }
+    return file;
+}
+
+/// The engine's failures name their function and source file first; the message stands on the last line.
+std::string lastLine(const std::string& text) {
+    return text.substr(text.rfind('\n') + 1);
+}
+
+} // namespace
+
+Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& settings,
+                  gradereport::Curves curves) {
+    try {
+        return graded(path, settings, curves);
+    } catch (const rockeval::ReadError& error) {
+        return gradereport::FailureRecord{path, error.what()};
+    } catch (const std::bad_alloc&) {
+        return gradereport::FailureRecord{path, path + ": there is not enough memory for this file."};
+    } catch (const std::exception& error) {
+        return gradereport::FailureRecord{
+            path, path + ": the curve can't be graded, check that it spans a whole heating (" +
+                      lastLine(error.what()) + ")."};
+    }
+}
+
+} // namespace grade

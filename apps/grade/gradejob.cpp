@@ -1,0 +1,124 @@
+#include "gradejob.h"
+
+#include "inputfiles.h"
+#include "progress.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <istream>
+#include <ostream>
+
+namespace grade {
+
+namespace {
+
+constexpr int allGraded = 0;
+constexpr int someFailed = 1;
+constexpr int wrongUsage = 2;
+
+/// A file beside the main output, opened before the work starts, so that a wrong path costs no time.
+class SideFile {
+public:
+    explicit SideFile(std::optional<std::string> path) : m_path(std::move(path)) {
+        if (m_path) {
+            m_stream.open(*m_path, std::ios::binary | std::ios::trunc);
+        }
+    }
+
+    [[nodiscard]] bool wanted() const { return m_path.has_value(); }
+    [[nodiscard]] std::ostream& stream() { return m_stream; }
+
+    /// Whether the file can be written so far; says so on `err` where not.
+    bool check(std::ostream& err) {
+        if (!wanted() || m_stream.good()) {
+            return true;
+        }
+        err << *m_path << ": the file can't be written (" << std::strerror(errno)
+            << "); name another place or make room.\n";
+        return false;
+    }
+
+private:
+    std::optional<std::string> m_path;
+    std::ofstream m_stream;
+};
+
+class Job {
+public:
+    Job(const Options& options, const Console& console) : m_options(options), m_console(console) {}
+
+    void addOutput(std::unique_ptr<Output> output) { m_outputs.push_back(std::move(output)); }
+
+    void work() {
+        const InputFiles inputs = findInputFiles(m_options.paths, m_console.in);
+        Progress progress(m_console.err, m_console.showProgress, inputs.files.size());
+        for (const auto& failure : inputs.failures) {
+            take(failure);
+        }
+        const auto curves = m_options.report ? gradereport::Curves::included : gradereport::Curves::leftOut;
+        for (const std::string& path : inputs.files) {
+            const Outcome outcome = gradeFile(path, m_options.settings, curves);
+            progress.clear();
+            std::visit([this](const auto& result) { take(result); }, outcome);
+            progress.step();
+        }
+        progress.clear();
+        for (const auto& output : m_outputs) {
+            output->finish();
+        }
+        m_console.out.flush();
+    }
+
+    [[nodiscard]] bool someFailed() const { return m_someFailed; }
+
+private:
+    void take(const GradedFile& file) {
+        for (const auto& output : m_outputs) {
+            output->add(file);
+        }
+    }
+    void take(const gradereport::FailureRecord& failure) {
+        m_someFailed = true;
+        for (const auto& output : m_outputs) {
+            output->addFailure(failure);
+        }
+    }
+
+    const Options& m_options;
+    const Console& m_console;
+    std::vector<std::unique_ptr<Output>> m_outputs;
+    bool m_someFailed = false;
+};
+
+} // namespace
+
+int run(const Options& options, const Console& console) {
+    SideFile report(options.report);
+    if (!report.check(console.err)) {
+        return wrongUsage;
+    }
+    SideFile machineLearning(options.machineLearning);
+    if (!machineLearning.check(console.err)) {
+        return wrongUsage;
+    }
+    Job job(options, console);
+    job.addOutput(formattedOutput(options.format, console.out, console.terminal));
+    if (report.wanted()) {
+        job.addOutput(reportOutput(options.settings, report.stream()));
+    }
+    if (machineLearning.wanted()) {
+        job.addOutput(machineLearningOutput(machineLearning.stream()));
+    }
+    job.work();
+
+    report.stream().flush();
+    machineLearning.stream().flush();
+    const bool sidesWritten = report.check(console.err) && machineLearning.check(console.err);
+    if (!console.out) {
+        console.err << "The output could not be written to its end; make room or name another place.\n";
+    }
+    return job.someFailed() || !sidesWritten || !console.out ? someFailed : allGraded;
+}
+
+} // namespace grade

@@ -1,0 +1,82 @@
+#include "inputfiles.h"
+
+#include "naturalorder.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <filesystem>
+#include <istream>
+#include <system_error>
+
+namespace grade {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool hasSignalSuffix(const fs::path& path) {
+    const std::string suffix = path.extension().string();
+    return suffix == ".S00" || suffix == ".s00";
+}
+
+void searchFolder(const std::string& folder, InputFiles& inputs) {
+    const std::size_t before = inputs.files.size();
+    std::error_code error;
+    auto entry =
+        fs::recursive_directory_iterator(folder, fs::directory_options::skip_permission_denied, error);
+    for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error)) {
+        std::error_code ignored; // an entry that can't be looked at is tried as a file, and says why it fails
+        if (hasSignalSuffix(entry->path()) && !entry->is_directory(ignored)) {
+            inputs.files.push_back(entry->path().string());
+        }
+    }
+    if (error) {
+        inputs.failures.push_back({folder, folder + ": the folder could not be searched to its end (" +
+                                               error.message() + "); check its permissions."});
+        return;
+    }
+    if (inputs.files.size() == before) {
+        inputs.failures.push_back(
+            {folder, folder + ": the folder holds no raw signal; name one with .S00 files in it."});
+    }
+}
+
+void resolve(const std::string& path, InputFiles& inputs) {
+    std::error_code ignored; // what is no folder is tried as a file, and says why it fails
+    if (fs::is_directory(path, ignored)) {
+        searchFolder(path, inputs);
+        return;
+    }
+    inputs.files.push_back(path);
+}
+
+void resolveLines(std::istream& lines, InputFiles& inputs) {
+    std::string line;
+    while (std::getline(lines, line)) {
+        if (!line.empty() && line.back() == '\r') {
+            line.pop_back();
+        }
+        if (!line.empty()) {
+            resolve(line, inputs);
+        }
+    }
+}
+
+} // namespace
+
+InputFiles findInputFiles(const std::vector<std::string>& paths, std::istream& standardInput) {
+    InputFiles inputs;
+    for (const std::string& path : paths) {
+        if (path == "-") {
+            resolveLines(standardInput, inputs);
+        } else {
+            resolve(path, inputs);
+        }
+    }
+    auto& files = inputs.files;
+    std::sort(files.begin(), files.end(), naturallyLess);
+    files.erase(std::unique(files.begin(), files.end()), files.end());
+    return inputs;
+}
+
+} // namespace grade

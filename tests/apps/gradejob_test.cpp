@@ -1,0 +1,153 @@
+#include "gradejob.h"
+#include "rockeval/channels.h"
+#include "rockeval/signalreader.h"
+#include "sourcerockqaqc/rawsignal.h"
+#include "sourcerockqaqc/srqaqcmngr.h"
+#include "temporaryfolder.h"
+
+#include <gtest/gtest.h>
+#include <rapidjson/document.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+using Values = std::vector<double>;
+
+struct Result {
+    int status = 0;
+    std::string out;
+    std::string err;
+};
+
+Result run(const grade::Options& options) {
+    std::istringstream in;
+    std::ostringstream out;
+    std::ostringstream err;
+    const int status = grade::run(options, {in, out, err, {}, false});
+    return {status, out.str(), err.str()};
+}
+
+grade::Options optionsFor(std::vector<std::string> paths, grade::Format format = grade::Format::json) {
+    grade::Options options;
+    options.paths = std::move(paths);
+    options.format = format;
+    return options;
+}
+
+std::vector<rapidjson::Document> jsonLines(const std::string& text) {
+    std::vector<rapidjson::Document> documents;
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        documents.emplace_back();
+        documents.back().Parse<rapidjson::kParseFullPrecisionFlag>(line.c_str());
+        EXPECT_FALSE(documents.back().HasParseError()) << line;
+    }
+    return documents;
+}
+
+std::string example(const std::string& name) {
+    return std::string(VORN_EXAMPLES) + "/" + name;
+}
+
+} // namespace
+
+TEST(GradeJob, a_file_that_cannot_be_read_costs_the_others_nothing) {
+    const TemporaryFolder folder;
+    const std::string good = folder.write("3.S00", contentOf(example("good-clean-01.S00")));
+    folder.write("1.S00", "");
+    folder.write("2.S00", std::string("MZ\0\1", 4));
+    folder.write("4.S00", "[Curves pyro]\r\n0\t200\t5\r\n"); // one point has no useful range
+
+    const Result result = run(optionsFor({folder.path(), folder.path("5.S00")}));
+    EXPECT_EQ(result.status, 1);
+    const auto lines = jsonLines(result.out);
+    ASSERT_EQ(lines.size(), 5U);
+    for (std::size_t i : {0U, 1U, 3U, 4U}) {
+        const std::string file = folder.path(std::to_string(i + 1) + ".S00");
+        EXPECT_EQ(lines[i]["file"].GetString(), file);
+        EXPECT_EQ(std::string(lines[i]["error"].GetString()).rfind(file, 0), 0U)
+            << lines[i]["error"].GetString();
+        EXPECT_FALSE(lines[i].HasMember("grade"));
+    }
+    EXPECT_STREQ(lines[2]["grade"].GetString(), "good");
+    EXPECT_EQ(run(optionsFor({good})).status, 0);
+}
+
+TEST(GradeJob, the_same_input_gives_the_same_bytes_in_every_output) {
+    const TemporaryFolder folder;
+    std::vector<std::string> outputs;
+    for (const char* name : {"a", "b"}) {
+        for (const auto format : {grade::Format::table, grade::Format::csv, grade::Format::json}) {
+            grade::Options options = optionsFor({VORN_EXAMPLES}, format);
+            options.report = folder.path(std::string(name) + ".html");
+            options.machineLearning = folder.path(std::string(name) + ".txt");
+            outputs.push_back(run(options).out);
+        }
+    }
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(outputs[i], outputs[i + 3]);
+    }
+    EXPECT_EQ(contentOf(folder.path("a.html")), contentOf(folder.path("b.html")));
+    EXPECT_EQ(contentOf(folder.path("a.txt")), contentOf(folder.path("b.txt")));
+    EXPECT_NE(contentOf(folder.path("a.html")).find("</html>"), std::string::npos);
+}
+
+TEST(GradeJob, the_machine_learning_file_is_what_the_manager_exports) {
+    const TemporaryFolder folder;
+    const std::string path = example("double-clean-01.S00");
+    grade::Options options = optionsFor({path});
+    options.machineLearning = folder.path("ml.txt");
+    ASSERT_EQ(run(options).status, 0);
+
+    const auto channels = rockeval::toChannels(rockeval::readSignalFile(path).curve);
+    algo::sr_qaqc::SourceRockQAQCMgr<double, Values> manager(
+        std::make_shared<algo::sr_qaqc::SourceRockQAQCSettings<double, Values>>());
+    manager.addAnalysis(algo::sr_qaqc::rawSignal<double, Values>(channels.time.data(), channels.fid.data(),
+                                                                 static_cast<int>(channels.time.size())),
+                        "double");
+    std::ostringstream exported;
+    manager.exportData(exported);
+    EXPECT_EQ(contentOf(folder.path("ml.txt")), exported.str());
+    EXPECT_NE(exported.str().find("]\n]\ny=[2;]\n"), std::string::npos);
+}
+
+TEST(GradeJob, settings_reach_the_engine_and_stand_in_the_output) {
+    grade::Options options = optionsFor({example("good-clean-01.S00")});
+    options.settings.heightCriteria = 4.0;
+    const auto lines = jsonLines(run(options).out);
+    EXPECT_STREQ(lines.at(0)["grade"].GetString(), "flat");
+    EXPECT_EQ(lines[0]["settings"]["height"].GetDouble(), 4.0);
+    EXPECT_STREQ(lines[0]["version"].GetString(), grade::version());
+}
+
+TEST(GradeJob, an_output_that_cannot_be_written_is_told) {
+    grade::Options options = optionsFor({example("good-clean-01.S00")});
+    options.report = "/nonexistent/report.html";
+    const Result refused = run(options);
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_TRUE(refused.out.empty()) << "nothing is graded before the file can be written";
+    EXPECT_NE(refused.err.find("/nonexistent/report.html"), std::string::npos);
+
+    options.report = "/dev/full";
+    const Result full = run(options);
+    EXPECT_EQ(full.status, 1);
+    EXPECT_NE(full.err.find("/dev/full"), std::string::npos);
+
+    std::istringstream in;
+    std::ofstream out("/dev/full");
+    std::ostringstream err;
+    EXPECT_EQ(grade::run(optionsFor({example("good-clean-01.S00")}), {in, out, err, {}, false}), 1);
+    EXPECT_FALSE(err.str().empty());
+}
+
+TEST(GradeJob, a_curve_too_long_to_be_a_pyrolysis_is_refused) {
+    const TemporaryFolder folder;
+    std::string text = "[Curves pyro]\n";
+    for (std::size_t t = 0; t <= grade::maxPoints; ++t) {
+        text += std::to_string(t) + "\t0\t1\n";
+    }
+    const auto lines = jsonLines(run(optionsFor({folder.write("long.S00", text)})).out);
+    EXPECT_NE(std::string(lines.at(0)["error"].GetString()).find("points"), std::string::npos);
+}
