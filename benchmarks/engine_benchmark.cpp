@@ -7,6 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <string_view>
 
 namespace {
 
@@ -73,6 +74,21 @@ void registerForm(const char* name, VectorForm form) {
     }
 }
 
+/// Gives the measured curve to those who measure something else on it.
+bool print(std::string_view wanted) {
+    if (wanted == "--print-file") {
+        std::fwrite(curve().fileBytes().data(), 1, curve().fileBytes().size(), stdout);
+        return true;
+    }
+    if (wanted != "--print-curve") {
+        return false;
+    }
+    for (const double y : curve().even()->yValues()) {
+        std::printf("%.17g\n", y);
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -85,11 +101,13 @@ int main(int argc, char** argv) {
     benchmark::RegisterBenchmark("parse_s00", parse);
     benchmark::RegisterBenchmark("hash", hash);
     benchmark::RegisterBenchmark("update_1000", updateThousand)->Unit(benchmark::kMillisecond);
+    if (argc == 2 && print(argv[1])) {
+        return 0;
+    }
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
     }
-    std::printf("graded samples: %zu\n", static_cast<std::size_t>(curve().even()->size()));
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }
