@@ -23,7 +23,10 @@ public:
     Scalar averagePeakWidth; ///< in samples
 
 private:
-    static Scalar defaultWidth(std::size_t n) { return n / 100 < 2 ? 1.0 : static_cast<Scalar>(n / 100); }
+    static Scalar defaultWidth(std::size_t n) {
+        const std::size_t hundredth = n / 100;
+        return hundredth < 2 ? 1.0 : static_cast<Scalar>(hundredth);
+    }
 
     Noise m_noise;
     Scalar m_samplingStep;

@@ -67,6 +67,8 @@ public:
 
 private:
     // Handles point into the pool, so the entries must not move when it grows: a deque, not a vector.
+    // One pool for the process is the point of it.
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
     inline static std::deque<typename Vector<Storage>::Entry> s_entries;
 };
 

@@ -22,6 +22,8 @@ public:
     explicit ParameterBase(std::string parameterName) : name(std::move(parameterName)) {}
 
     virtual std::string valueAsString() const { return "nil"; }
+    // By value in the interface: a derived class may keep the text.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param)
     virtual void setFromString(std::string) {}
 
     std::string name; ///< the key of the parameter
@@ -87,6 +89,7 @@ public:
 
     /// The value itself, which later calls of `setValue` change. Raises for an unknown name.
     template <class Value>
+    // NOLINTNEXTLINE(performance-unnecessary-value-param) the signature that callers know
     const Value& getValue(std::string name) const {
         const auto found = m_parameters.find(name);
         if (found == m_parameters.end()) {

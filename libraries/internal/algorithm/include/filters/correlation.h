@@ -143,10 +143,10 @@ inline void correlateBaseline(const std::vector<double>& mask, std::int32_t star
 inline bool supports(VectorForm form) {
 #if ALGO_HAS_X86_FORMS
     if (form == VectorForm::avx2) {
-        return __builtin_cpu_supports("avx2") != 0;
+        return static_cast<bool>(__builtin_cpu_supports("avx2"));
     }
     if (form == VectorForm::avx512) {
-        return __builtin_cpu_supports("avx512f") != 0;
+        return static_cast<bool>(__builtin_cpu_supports("avx512f"));
     }
 #endif
     return form == VectorForm::plain || form == VectorForm::baseline;

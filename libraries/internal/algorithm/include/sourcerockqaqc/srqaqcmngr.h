@@ -77,6 +77,7 @@ public:
     }
 
     /// The quality code of the first analysis of that name. Raises for an unknown one.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param) the signature that callers know
     int getQuality(const std::string name) const {
         for (const auto& entry : m_analyses) {
             if (entry.second->name() == name) {
