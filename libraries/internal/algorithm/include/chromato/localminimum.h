@@ -14,7 +14,7 @@ template <class Scalar, class Values>
 bool isLocalMinimum(const core::Signal1D<Scalar, Values>& signal, std::int32_t index) {
     const Values& y = signal.yValues();
     const auto i = static_cast<std::size_t>(index);
-    if (i == 0 || i + 1 >= y.size()) {
+    if (index <= 0 || i + 1 >= y.size()) {
         return false;
     }
     return y[i + 1] > y[i] && y[i - 1] >= y[i];

@@ -28,7 +28,11 @@ public:
     }
 
     Scalar dx() const { return m_dx; }
-    Scalar secondDerivative(std::int32_t i) const { return m_second[static_cast<std::size_t>(i)]; }
+    /// 0 where the stencil does not fit.
+    Scalar secondDerivative(std::int32_t index) const {
+        const auto i = static_cast<std::size_t>(index);
+        return i < m_second.size() ? m_second[i] : 0.0;
+    }
 
     /// A strict local minimum of the second derivative on a positive sample.
     bool isPeakTop(std::int32_t index) const {

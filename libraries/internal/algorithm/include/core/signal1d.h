@@ -372,7 +372,7 @@ std::int32_t Signal1D<Scalar, Values>::upperIndex(Scalar x2, Scalar step) const 
     if (b >= lastIndex) {
         b = lastIndex;
     }
-    while (m_xValues[b] < x2 && b < lastIndex) {
+    while (b < lastIndex && m_xValues[b] < x2) {
         ++b;
     }
     return lowInt32(b);

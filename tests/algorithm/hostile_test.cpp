@@ -1,0 +1,71 @@
+#include "enginetest.h"
+
+#include <cmath>
+#include <random>
+
+using namespace enginetest;
+
+namespace {
+
+const double notANumber = std::nan("");
+constexpr double infinite = HUGE_VAL;
+
+/// Grades and gives "grade", or the failure in a word; any other exception ends the test.
+std::string outcome(const SignalPointer& signal, const Settings& settings = {}) {
+    try {
+        const auto result = algo::sr_qaqc::grade<double, Values>(signal, settings);
+        EXPECT_EQ(result.early.size() + result.coeluted.size() + result.chromatogram->peaks().size(),
+                  result.candidates->peaks().size());
+        return "grade";
+    } catch (const algo::core::ErrorParameter&) {
+        return "parameter";
+    } catch (const std::length_error&) {
+        return "length";
+    } catch (const Failure& failure) {
+        const std::string text = failure.what();
+        for (const std::string known : {"index out of", "sigma", "over-sized"}) {
+            if (text.find(known, text.find('\n')) != std::string::npos) {
+                return known;
+            }
+        }
+        throw;
+    }
+}
+
+} // namespace
+
+TEST(Hostile, odd_levels_axes_and_settings_give_a_grade_or_a_stated_failure) {
+    std::mt19937 generator(11);
+    const auto pick = [&](const Values& values) { return values[generator() % values.size()]; };
+    const Values odd{notANumber, infinite, -infinite, 0, 1, 3e9, -3e9, 1e308, -1e308};
+    int grades = 0;
+    for (int run = 0; run < 4000; ++run) {
+        const auto n = 1 + generator() % (run % 20 == 0 ? 300 : (run % 4 == 0 ? 3 : 40));
+        const double level = pick({0, 1, -1, 1e9, -1e9, 3e9, 1e300, -1e300, 1e-310});
+        const double noise = pick({0, 0, 0.001, 1});
+        const double step = pick({1, 1, 1, 0, -1, 1e-320, 1e30, 0.01});
+        const double x0 = pick({0, 0, 0, 100, -100, 1e15, -1e300});
+        Values x;
+        Values y;
+        for (unsigned i = 0; i < n; ++i) {
+            x.push_back(x0 + i * step);
+            y.push_back(level * (1 + noise * static_cast<double>(generator() % 1000)));
+        }
+        for (int i = run % 4; i > 1; --i) {
+            (run % 7 == 0 ? x : y)[generator() % n] = pick(odd);
+        }
+        Settings settings;
+        if (run % 2 == 0) {
+            settings = {pick({0.001, 0.2, 0.99, 0.05, 0, 1, notANumber, infinite}),
+                        pick({0, 2, -1, infinite, notANumber}), pick({0, 5, -1, notANumber})};
+        }
+        grades += outcome(signalOf(x, y), settings) == "grade" ? 1 : 0;
+    }
+    EXPECT_GT(grades, 400);
+}
+
+TEST(Hostile, level_curves_have_a_grade) {
+    for (const double level : {7.0, 0.0, -5.0, 1e9, notANumber, infinite}) { // 1e9: the integer sum overflows
+        EXPECT_EQ(outcome(counted(Values(100, level))), "grade") << level;
+    }
+}
