@@ -5,7 +5,8 @@
 
 Needs the preset `bench` built (cmake --preset bench && cmake --build --preset bench) with GSL, and
 the system's Python with scipy (packages libgsl-dev and python3-scipy). All contestants take turns for
-the given number of rounds, and the median of each is compared, since a shared machine's speed drifts.
+the given number of rounds, and the medians of their processor times are compared, since the speed of a
+shared machine drifts.
 """
 
 import argparse
@@ -40,10 +41,10 @@ def scipy_chain(y):
 
 
 def microseconds(function, argument, repeats=200):
-    started = time.perf_counter()
+    started = time.process_time()
     for _ in range(repeats):
         function(argument)
-    return (time.perf_counter() - started) / repeats * 1e6
+    return (time.process_time() - started) / repeats * 1e6
 
 
 def benchmark_times(program, names):
