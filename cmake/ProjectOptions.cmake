@@ -1,6 +1,7 @@
 # Options, warnings and instrumentation shared by every target of the project.
 
 option(VORN_BUILD_TESTS "Build the tests" ON)
+option(VORN_BUILD_DESKTOP "Build the desktop host (Qt 5, Qwt)" OFF)
 option(VORN_BUILD_BENCHMARKS "Build the benchmark programs" OFF)
 option(VORN_BUILD_FUZZERS "Build the fuzz targets (clang only)" OFF)
 option(VORN_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
@@ -28,6 +29,8 @@ add_compile_options("-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
 if(VORN_SANITIZERS)
     add_compile_options("-fsanitize=${VORN_SANITIZERS}" -fno-omit-frame-pointer
         -fno-sanitize-recover=all)
+    # GCC takes the branches that the sanitizers add for ways to leave a value unset. Other builds warn.
+    add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     add_link_options("-fsanitize=${VORN_SANITIZERS}")
 endif()
 if(VORN_COVERAGE)

@@ -1,0 +1,7 @@
+#include "TModuleLicenseTester.h"
+
+TModuleLicenseTester::~TModuleLicenseTester() = default;
+
+bool TModuleLicenseTester::testLicense() const {
+    return true;
+}

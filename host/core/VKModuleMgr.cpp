@@ -1,0 +1,7 @@
+#include "VKModuleMgr.h"
+
+VKModuleMgr::~VKModuleMgr() = default;
+
+int VKModuleMgr::getIdForHelp() const {
+    return 0;
+}

@@ -1,0 +1,115 @@
+#include "VKTreeWidget.h"
+
+#include "TavrelColors.h"
+
+#include <QDropEvent>
+#include <QMetaMethod>
+#include <QMimeData>
+#include <QPainter>
+#include <QUrl>
+
+namespace {
+
+QStringList localFiles(const QMimeData* data) {
+    QStringList paths;
+    if (data == nullptr)
+        return paths;
+    for (const QUrl& url : data->urls()) {
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    }
+    return paths;
+}
+
+} // namespace
+
+VKTreeWidget::VKTreeWidget(QWidget* parent, const QString& dropText) : QTreeWidget(parent) {
+    setDropText(dropText);
+    setAcceptDrops(true);
+}
+
+void VKTreeWidget::setDropText(const QString& text) {
+    m_dropText = text;
+    setAccessibleDescription(text);
+    viewport()->update();
+}
+
+QSize VKTreeWidget::sizeHint() const {
+    // A header and four rows: enough to see what is there, low enough for a ribbon.
+    return {qMax(256, fontMetrics().averageCharWidth() * 36), qMax(112, fontMetrics().height() * 7)};
+}
+
+QSize VKTreeWidget::minimumSizeHint() const {
+    return {fontMetrics().averageCharWidth() * 24, fontMetrics().height() * 6};
+}
+
+bool VKTreeWidget::takesFilesOf(const QDropEvent& event) const {
+    return isSignalConnected(QMetaMethod::fromSignal(&VKTreeWidget::dataDroppped)) &&
+           !localFiles(event.mimeData()).isEmpty();
+}
+
+void VKTreeWidget::dragEnterEvent(QDragEnterEvent* event) {
+    event->setAccepted(takesFilesOf(*event));
+    emit dragEnterCalled(event);
+    setHovered(event->isAccepted());
+}
+
+void VKTreeWidget::dragMoveEvent(QDragMoveEvent* event) {
+    event->setAccepted(takesFilesOf(*event));
+    emit dragMoveCalled(event);
+    setHovered(event->isAccepted());
+}
+
+void VKTreeWidget::dragLeaveEvent(QDragLeaveEvent* event) {
+    setHovered(false);
+    event->accept();
+}
+
+void VKTreeWidget::dropEvent(QDropEvent* event) {
+    setHovered(false);
+    event->acceptProposedAction();
+    emit dropCalled(event);
+    if (takesFilesOf(*event))
+        emit dataDroppped(localFiles(event->mimeData()));
+}
+
+void VKTreeWidget::keyPressEvent(QKeyEvent* event) {
+    QTreeWidgetItem* item = currentItem();
+    if (item == nullptr || event->modifiers() != Qt::NoModifier || item->childCount() > 0)
+        return QTreeWidget::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return setCurrentItem(item, qMax(0, currentColumn() - 1));
+    case Qt::Key_Right:
+        return setCurrentItem(item, qMin(columnCount() - 1, currentColumn() + 1));
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        emit itemClicked(item, currentColumn());
+        return;
+    default:
+        return QTreeWidget::keyPressEvent(event);
+    }
+}
+
+void VKTreeWidget::setHovered(bool hovered) {
+    m_hovered = hovered;
+    viewport()->update();
+}
+
+void VKTreeWidget::paintEvent(QPaintEvent* event) {
+    QTreeWidget::paintEvent(event);
+    const bool invites = topLevelItemCount() == 0 && !m_dropText.isEmpty();
+    if (!invites && !m_hovered)
+        return;
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF frame = QRectF(viewport()->rect()).adjusted(4.5, 4.5, -4.5, -4.5);
+    const QColor line = m_hovered ? TavrelColors::accent(palette()) : TavrelColors::line(palette());
+    painter.setPen(QPen(line, m_hovered ? 2 : 1, m_hovered ? Qt::SolidLine : Qt::DashLine));
+    painter.drawRoundedRect(frame, 4, 4);
+    if (!invites)
+        return;
+    painter.setPen(TavrelColors::caption(palette()));
+    painter.drawText(frame.adjusted(8, 4, -8, -4), Qt::AlignCenter | Qt::TextWordWrap, m_dropText);
+}

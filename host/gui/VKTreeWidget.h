@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QTreeWidget>
+
+// A tree that takes drops and says, while it is empty, what may be dropped on it.
+//
+// Files: a drag that brings local files is accepted when somebody listens to dataDroppped; dropping it
+// reports their paths, in order. Anything else is for the listeners of the three ...Called signals, which
+// get each event after the tree has judged it as above, and may accept or ignore it. A drop arrives
+// accepted, since only an accepted drag can be dropped.
+//
+// Keyboard: Left and Right walk along the columns of an item without children; Enter or Space stands for a
+// click on the current cell.
+class VKTreeWidget : public QTreeWidget {
+    Q_OBJECT
+
+public:
+    explicit VKTreeWidget(QWidget* parent = nullptr, const QString& dropText = {});
+
+    // Plain text, shown while the tree has no item; it may hold line breaks.
+    void setDropText(const QString& text);
+    QString dropText() const { return m_dropText; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void dropCalled(QDropEvent* event);
+    void dragEnterCalled(QDragEnterEvent* event);
+    void dragMoveCalled(QDragMoveEvent* event);
+    void dataDroppped(const QStringList& paths);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool takesFilesOf(const QDropEvent& event) const;
+    void setHovered(bool hovered);
+
+    QString m_dropText;
+    bool m_hovered = false;
+};

@@ -1,0 +1,164 @@
+#include "AnalysisStore.h"
+
+#include "CurveBlob.h"
+#include "SqlConnection.h"
+#include "SqlError.h"
+#include "StoredInstant.h"
+#include "StoredName.h"
+
+#include <QCoreApplication>
+
+namespace TechDB {
+
+namespace {
+
+QString translated(const char* english, const char* french) {
+    return QCoreApplication::translate("TechDB::AnalysisStore", english, french);
+}
+
+AnalysisInfo analysisOf(const QSqlQuery& row) {
+    AnalysisInfo info;
+    info.key = row.value(0).toLongLong();
+    info.name = row.value(1).toString();
+    info.analysisType = row.value(2).toString();
+    info.created = StoredInstant::read(row.value(3));
+    info.pointCount = row.value(4).toInt();
+    return info;
+}
+
+[[noreturn]] void throwTaken(const QString& name) {
+    throw VKError(translated("An analysis named <b>%1</b> is already stored.",
+                             "Une analyse nommée <b>%1</b> est déjà enregistrée.")
+                      .arg(name.toHtmlEscaped()),
+                  {}, translated("Choose another name.", "Choisissez un autre nom."));
+}
+
+[[noreturn]] void throwGone() {
+    throw VKError(
+        translated("The analysis is no longer in the project.", "L'analyse n'est plus dans le projet."));
+}
+
+[[noreturn]] void throwDamaged(const QString& name, const QString& reason) {
+    throw VKError(translated("The stored curve of the analysis <b>%1</b> can't be used: %2.",
+                             "La courbe enregistrée de l'analyse <b>%1</b> est inutilisable : %2.")
+                      .arg(name.toHtmlEscaped(), reason),
+                  {}, translated("Import the analysis again.", "Importez à nouveau l'analyse."));
+}
+
+} // namespace
+
+QVector<AnalysisInfo> AnalysisStore::all() const {
+    QVector<AnalysisInfo> list;
+    m_connection.select(
+        QStringLiteral("SELECT id, name, analysis_type, created, point_count FROM analyses ORDER BY id"), {},
+        [&list](const QSqlQuery& row) { list.append(analysisOf(row)); });
+    return list;
+}
+
+std::optional<AnalysisInfo> AnalysisStore::byName(const QString& name) const {
+    std::optional<AnalysisInfo> found;
+    m_connection.select(
+        QStringLiteral("SELECT id, name, analysis_type, created, point_count FROM analyses WHERE name = ?"),
+        {SqlConnection::text(name)}, [&found](const QSqlQuery& row) { found = analysisOf(row); });
+    return found;
+}
+
+std::optional<AnalysisInfo> AnalysisStore::byKey(qint64 key) const {
+    std::optional<AnalysisInfo> found;
+    m_connection.select(
+        QStringLiteral("SELECT id, name, analysis_type, created, point_count FROM analyses WHERE id = ?"),
+        {key}, [&found](const QSqlQuery& row) { found = analysisOf(row); });
+    return found;
+}
+
+qint64 AnalysisStore::add(const QString& name, const QString& analysisType, const TAnalysisData& curve) {
+    checkName(name);
+    const QString reason = curve.whyUnusable();
+    if (!reason.isEmpty()) {
+        throw VKError(translated("The analysis <b>%1</b> was not stored: %2.",
+                                 "L'analyse <b>%1</b> n'a pas été enregistrée : %2.")
+                          .arg(name.toHtmlEscaped(), reason),
+                      {}, translated("Check the file that it came from.", "Vérifiez le fichier d'origine."));
+    }
+    try {
+        const qint64 key = m_connection.insert(
+            QStringLiteral(
+                "INSERT INTO analyses (name, analysis_type, created, point_count) VALUES (?, ?, ?, ?)"),
+            {name, SqlConnection::text(analysisType), StoredInstant::now(), curve.dataSize()});
+        m_connection.insert(QStringLiteral("INSERT INTO curves (analysis_id, points) VALUES (?, ?)"),
+                            {key, CurveBlob::encoded(curve)});
+        return key;
+    } catch (const SqlError& error) {
+        if (error.failure() == SqlFailure::NameTaken) {
+            throwTaken(name);
+        }
+        throw;
+    }
+}
+
+void AnalysisStore::rename(qint64 key, const QString& name) {
+    checkName(name);
+    try {
+        if (m_connection.execute(QStringLiteral("UPDATE analyses SET name = ? WHERE id = ?"), {name, key}) ==
+            0) {
+            throwGone();
+        }
+    } catch (const SqlError& error) {
+        if (error.failure() == SqlFailure::NameTaken) {
+            throwTaken(name);
+        }
+        throw;
+    }
+}
+
+void AnalysisStore::remove(qint64 key) {
+    if (m_connection.execute(QStringLiteral("DELETE FROM analyses WHERE id = ?"), {key}) == 0) {
+        throwGone();
+    }
+}
+
+TAnalysisData AnalysisStore::curve(qint64 key) const {
+    QString name;
+    qint64 pointCount = 0;
+    QByteArray bytes;
+    bool found = false;
+    m_connection.select(QStringLiteral("SELECT a.name, a.point_count, c.points FROM analyses a"
+                                       " LEFT JOIN curves c ON c.analysis_id = a.id WHERE a.id = ?"),
+                        {key}, [&](const QSqlQuery& row) {
+                            found = true;
+                            name = row.value(0).toString();
+                            pointCount = row.value(1).toLongLong();
+                            bytes = row.value(2).toByteArray();
+                        });
+    if (!found) {
+        throwGone();
+    }
+    if (!CurveBlob::fits(bytes, pointCount)) {
+        throwDamaged(name, translated("its %1 bytes are not the %2 points that it should have",
+                                      "elle a %1 octets qui ne font pas les %2 points attendus")
+                               .arg(bytes.size())
+                               .arg(pointCount));
+    }
+    TAnalysisData curve = CurveBlob::decoded(bytes);
+    const QString reason = curve.whyUnusable();
+    if (!reason.isEmpty()) {
+        throwDamaged(name, reason);
+    }
+    return curve;
+}
+
+QStringList AnalysisStore::problems() const {
+    QStringList list;
+    m_connection.select(
+        QStringLiteral("SELECT a.name FROM analyses a LEFT JOIN curves c ON c.analysis_id = a.id"
+                       " WHERE c.points IS NULL OR length(c.points) <> 8 * a.point_count"
+                       " ORDER BY a.id"),
+        {}, [&list](const QSqlQuery& row) {
+            list.append(translated("The stored curve of the analysis <b>%1</b> is not whole.",
+                                   "La courbe enregistrée de l'analyse <b>%1</b> est incomplète.")
+                            .arg(row.value(0).toString().toHtmlEscaped()));
+        });
+    return list;
+}
+
+} // namespace TechDB

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "StoredObject.h"
+#include "TAnalysisData.h"
+
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+namespace TechDB {
+
+class SqlConnection;
+
+/// The analyses of a project as rows. Writing takes a transaction of the caller's. Failures are thrown as
+/// VKError.
+class AnalysisStore {
+public:
+    explicit AnalysisStore(SqlConnection& connection) : m_connection(connection) {}
+
+    /// In the order of storing.
+    QVector<AnalysisInfo> all() const;
+    std::optional<AnalysisInfo> byName(const QString& name) const;
+    std::optional<AnalysisInfo> byKey(qint64 key) const;
+
+    /// Refuses a curve that is not usable and a name that is taken or no name.
+    qint64 add(const QString& name, const QString& analysisType, const TAnalysisData& curve);
+    void rename(qint64 key, const QString& name);
+    void remove(qint64 key);
+
+    /// Refuses stored bytes that are no usable curve of the stored number of points.
+    TAnalysisData curve(qint64 key) const;
+
+    /// A sentence for each stored curve that `curve` would refuse for its size.
+    QStringList problems() const;
+
+private:
+    SqlConnection& m_connection;
+};
+
+} // namespace TechDB

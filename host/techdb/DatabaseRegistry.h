@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+namespace TechDB {
+
+class TDatabase;
+
+/// The databases that are open in this process, so that what was dragged can be found again. For the
+/// interface thread.
+namespace DatabaseRegistry {
+
+void add(TDatabase* database);
+void remove(TDatabase* database);
+
+/// The database that was opened last among those of a project; null if none is open.
+TDatabase* find(const QString& projectId);
+
+} // namespace DatabaseRegistry
+
+} // namespace TechDB

@@ -1,0 +1,164 @@
+#include "ProjectSchema.h"
+
+#include "SqlConnection.h"
+#include "SqlError.h"
+
+#include <QCoreApplication>
+#include <QSqlError>
+#include <QUuid>
+
+#include <utility>
+
+namespace TechDB {
+
+namespace {
+
+// Instants are texts in UTC as ISO 8601 has them. A curve lies apart from its analysis, so that a list of
+// analyses reads no curve. A cell is a number or a text; an empty cell has no row.
+QStringList firstVersion() {
+    return {
+        QStringLiteral("CREATE TABLE project ("
+                       " only_row INTEGER PRIMARY KEY CHECK (only_row = 1),"
+                       " id TEXT NOT NULL,"
+                       " schema_version INTEGER NOT NULL,"
+                       " created TEXT NOT NULL)"),
+        QStringLiteral("CREATE TABLE analyses ("
+                       " id {identity},"
+                       " name TEXT NOT NULL UNIQUE,"
+                       " analysis_type TEXT NOT NULL,"
+                       " created TEXT NOT NULL,"
+                       " point_count INTEGER NOT NULL CHECK (point_count >= 2))"),
+        QStringLiteral("CREATE TABLE curves ("
+                       " analysis_id BIGINT PRIMARY KEY REFERENCES analyses (id) ON DELETE CASCADE,"
+                       " points {blob} NOT NULL)"),
+        QStringLiteral("CREATE TABLE datasets ("
+                       " id {identity},"
+                       " name TEXT NOT NULL UNIQUE,"
+                       " created TEXT NOT NULL)"),
+        QStringLiteral("CREATE TABLE samples ("
+                       " id {identity},"
+                       " dataset_id BIGINT NOT NULL REFERENCES datasets (id) ON DELETE CASCADE,"
+                       " name TEXT NOT NULL,"
+                       " UNIQUE (dataset_id, name))"),
+        QStringLiteral("CREATE TABLE sample_properties ("
+                       " sample_id BIGINT NOT NULL REFERENCES samples (id) ON DELETE CASCADE,"
+                       " position INTEGER NOT NULL,"
+                       " name TEXT NOT NULL,"
+                       " value TEXT NOT NULL,"
+                       " unit TEXT NOT NULL,"
+                       " comment TEXT NOT NULL,"
+                       " PRIMARY KEY (sample_id, position)) {clustered}"),
+        QStringLiteral("CREATE TABLE sample_rows ("
+                       " sample_id BIGINT NOT NULL REFERENCES samples (id) ON DELETE CASCADE,"
+                       " position INTEGER NOT NULL,"
+                       " name TEXT NOT NULL,"
+                       " PRIMARY KEY (sample_id, position)) {clustered}"),
+        QStringLiteral("CREATE TABLE sample_columns ("
+                       " sample_id BIGINT NOT NULL REFERENCES samples (id) ON DELETE CASCADE,"
+                       " position INTEGER NOT NULL,"
+                       " name TEXT NOT NULL,"
+                       " PRIMARY KEY (sample_id, position)) {clustered}"),
+        QStringLiteral("CREATE TABLE sample_values ("
+                       " sample_id BIGINT NOT NULL REFERENCES samples (id) ON DELETE CASCADE,"
+                       " row_position INTEGER NOT NULL,"
+                       " column_position INTEGER NOT NULL,"
+                       " number_value {double},"
+                       " text_value TEXT,"
+                       " PRIMARY KEY (sample_id, row_position, column_position),"
+                       " CHECK ((number_value IS NULL) <> (text_value IS NULL))) {clustered}"),
+        QStringLiteral("CREATE VIEW dataset_values AS"
+                       " SELECT d.name AS dataset, s.name AS sample, r.name AS row_name,"
+                       " c.name AS column_name, v.number_value, v.text_value"
+                       " FROM sample_values v"
+                       " JOIN samples s ON s.id = v.sample_id"
+                       " JOIN datasets d ON d.id = s.dataset_id"
+                       " JOIN sample_rows r ON r.sample_id = v.sample_id AND r.position = v.row_position"
+                       " JOIN sample_columns c ON c.sample_id = v.sample_id"
+                       " AND c.position = v.column_position"),
+    };
+}
+
+QStringList probes() {
+    return {
+        QStringLiteral("SELECT id, name, analysis_type, created, point_count FROM analyses LIMIT 0"),
+        QStringLiteral("SELECT analysis_id, points FROM curves LIMIT 0"),
+        QStringLiteral("SELECT id, name, created FROM datasets LIMIT 0"),
+        QStringLiteral("SELECT id, dataset_id, name FROM samples LIMIT 0"),
+        QStringLiteral(
+            "SELECT sample_id, position, name, value, unit, comment FROM sample_properties LIMIT 0"),
+        QStringLiteral("SELECT sample_id, position, name FROM sample_rows LIMIT 0"),
+        QStringLiteral("SELECT sample_id, position, name FROM sample_columns LIMIT 0"),
+        QStringLiteral("SELECT sample_id, row_position, column_position, number_value, text_value"
+                       " FROM sample_values LIMIT 0"),
+    };
+}
+
+[[noreturn]] void failAsForeign(const SqlConnection& connection) {
+    throw SqlError(SqlFailure::NotADatabase, QSqlError(), connection.place());
+}
+
+} // namespace
+
+ProjectSchema::ProjectSchema(QStringList creation, QVector<QStringList> migrations)
+    : m_creation(std::move(creation)), m_migrations(std::move(migrations)) {}
+
+const ProjectSchema& ProjectSchema::current() {
+    static const ProjectSchema schema(firstVersion(), {});
+    return schema;
+}
+
+void ProjectSchema::create(SqlConnection& connection, const QString& projectId,
+                           const QString& instant) const {
+    for (const QString& statement : m_creation) {
+        connection.run(statement);
+    }
+    connection.run(
+        QStringLiteral("INSERT INTO project (only_row, id, schema_version, created) VALUES (1, ?, ?, ?)"),
+        {projectId, version(), instant});
+}
+
+int ProjectSchema::versionOf(SqlConnection& connection) {
+    QVariant found;
+    try {
+        connection.select(QStringLiteral("SELECT schema_version FROM project WHERE only_row = 1"), {},
+                          [&found](const QSqlQuery& row) { found = row.value(0); });
+    } catch (const SqlError& error) {
+        // A database of somebody else's has no such table; any other failure keeps its own words.
+        if (error.failure() != SqlFailure::Other) {
+            throw;
+        }
+        failAsForeign(connection);
+    }
+    const int stored = found.toInt();
+    if (stored < 1) {
+        failAsForeign(connection);
+    }
+    return stored;
+}
+
+QString ProjectSchema::projectIdOf(SqlConnection& connection) {
+    QString id;
+    connection.select(QStringLiteral("SELECT id FROM project WHERE only_row = 1"), {},
+                      [&id](const QSqlQuery& row) { id = row.value(0).toString(); });
+    if (QUuid(id).isNull()) {
+        failAsForeign(connection);
+    }
+    return id;
+}
+
+void ProjectSchema::migrate(SqlConnection& connection, int from) const {
+    for (int step = from; step < version(); ++step) {
+        for (const QString& statement : m_migrations.at(step - 1)) {
+            connection.run(statement);
+        }
+    }
+    connection.run(QStringLiteral("UPDATE project SET schema_version = ? WHERE only_row = 1"), {version()});
+}
+
+void ProjectSchema::probe(SqlConnection& connection) {
+    for (const QString& statement : probes()) {
+        connection.run(statement);
+    }
+}
+
+} // namespace TechDB

@@ -1,0 +1,7 @@
+#include "SqlDialect.h"
+
+namespace TechDB {
+
+SqlDialect::~SqlDialect() = default;
+
+} // namespace TechDB

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QSqlDatabase;
+class QSqlError;
+
+namespace TechDB {
+
+/// What a statement can fail of, as far as the user or the code can answer it.
+enum class SqlFailure { Busy, ReadOnly, Full, Damaged, NotADatabase, CannotOpen, NameTaken, Other };
+
+/// All that differs between one database engine and another. Everything else is SQL that they share.
+///
+/// Statements may hold these words in braces: {identity} the type of a key that the engine gives and never
+/// gives twice, {double} an 8-byte number, {blob} bytes, {clustered} what follows a table whose rows lie in
+/// the order of its primary key.
+class SqlDialect {
+public:
+    SqlDialect() = default;
+    virtual ~SqlDialect();
+    SqlDialect(const SqlDialect&) = delete;
+    SqlDialect& operator=(const SqlDialect&) = delete;
+
+    /// Name of the Qt driver.
+    virtual QString driver() const = 0;
+    /// Points a connection at an existing database; nothing is created by opening it.
+    virtual void aim(QSqlDatabase& connection, const QString& place) const = 0;
+
+    /// What a connection runs before anything else; writes nothing.
+    virtual QStringList setUp() const = 0;
+    /// What it runs once the database is known to be ours.
+    virtual QStringList setUpOfOwn() const = 0;
+
+    /// The statement with its words in braces replaced.
+    virtual QString adapted(const QString& statement) const = 0;
+    /// Begins a transaction that may write at once: it waits for other writers here and nowhere later.
+    virtual QString beginWriting() const = 0;
+    /// Writes a whole copy into a new file, whose path is bound.
+    virtual QString copyToFile() const = 0;
+    /// Selects one text a row: the problems found, or a single "ok".
+    virtual QString checkWhole() const = 0;
+    /// Selects one row for each reference to a row that isn't there, its table first.
+    virtual QString checkReferences() const = 0;
+
+    virtual SqlFailure failureOf(const QSqlError& error) const = 0;
+};
+
+} // namespace TechDB

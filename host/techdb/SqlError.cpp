@@ -1,0 +1,82 @@
+#include "SqlError.h"
+
+#include <QCoreApplication>
+#include <QSqlError>
+
+namespace TechDB {
+
+namespace {
+
+QString translated(const char* english, const char* french) {
+    return QCoreApplication::translate("TechDB::SqlError", english, french);
+}
+
+QString whatHappened(SqlFailure failure) {
+    switch (failure) {
+    case SqlFailure::Busy:
+        return translated("The project <b>%1</b> is being written by another window.",
+                          "Le projet <b>%1</b> est en cours d'écriture par une autre fenêtre.");
+    case SqlFailure::ReadOnly:
+        return translated("The project <b>%1</b> can't be written.",
+                          "Le projet <b>%1</b> ne peut pas être écrit.");
+    case SqlFailure::Full:
+        return translated("The disk of the project <b>%1</b> is full; nothing was written.",
+                          "Le disque du projet <b>%1</b> est plein ; rien n'a été écrit.");
+    case SqlFailure::Damaged:
+        return translated("The project <b>%1</b> is damaged.", "Le projet <b>%1</b> est endommagé.");
+    case SqlFailure::NotADatabase:
+        return translated("The file <b>%1</b> is not a project.",
+                          "Le fichier <b>%1</b> n'est pas un projet.");
+    case SqlFailure::CannotOpen:
+        return translated("The project <b>%1</b> can't be opened.",
+                          "Le projet <b>%1</b> ne peut pas être ouvert.");
+    case SqlFailure::NameTaken:
+        return translated("The project <b>%1</b> holds that name already.",
+                          "Le projet <b>%1</b> contient déjà ce nom.");
+    case SqlFailure::Other:
+        break;
+    }
+    return translated("The project <b>%1</b> could not be read or written.",
+                      "Le projet <b>%1</b> n'a pas pu être lu ou écrit.");
+}
+
+QString whatToDo(SqlFailure failure) {
+    switch (failure) {
+    case SqlFailure::Busy:
+        return translated("Wait until it is done and try again.",
+                          "Attendez qu'elle ait fini et essayez à nouveau.");
+    case SqlFailure::ReadOnly:
+    case SqlFailure::CannotOpen:
+        return translated("Check that the file is there and that it and its folder may be written, or copy "
+                          "it to a folder of yours.",
+                          "Vérifiez que le fichier existe et que l'écriture y est permise, dans son dossier "
+                          "aussi, ou copiez-le dans un de vos dossiers.");
+    case SqlFailure::Full:
+        return translated("Free some space and try again.", "Libérez de la place et essayez à nouveau.");
+    case SqlFailure::NotADatabase:
+        return translated("Choose a file that was saved as a project.",
+                          "Choisissez un fichier enregistré comme projet.");
+    case SqlFailure::NameTaken:
+        return translated("Choose another name.", "Choisissez un autre nom.");
+    case SqlFailure::Damaged:
+    case SqlFailure::Other:
+        break;
+    }
+    return translated("If this happens again, go back to a backup copy.",
+                      "Si cela se reproduit, revenez à une copie de sauvegarde.");
+}
+
+QString whereItHappened(const QSqlError& cause) {
+    const QString text = cause.databaseText().isEmpty() ? cause.driverText() : cause.databaseText();
+    return text.isEmpty() ? QString() : QStringLiteral("(%1)").arg(text.toHtmlEscaped());
+}
+
+} // namespace
+
+SqlError::SqlError(SqlFailure failure, const QSqlError& cause, const QString& place)
+    : VKError(whatHappened(failure).arg(place.toHtmlEscaped()), whereItHappened(cause), whatToDo(failure)),
+      m_failure(failure) {}
+
+SqlError::~SqlError() = default;
+
+} // namespace TechDB

@@ -1,0 +1,27 @@
+#pragma once
+
+namespace TechDB {
+
+class SqlConnection;
+
+/// A transaction that writes: the first of a connection begins one, those within it are savepoints, to be
+/// ended in the reverse order. What isn't committed is rolled back at the end of its life.
+class SqlTransaction {
+public:
+    explicit SqlTransaction(SqlConnection& connection);
+    ~SqlTransaction();
+    SqlTransaction(const SqlTransaction&) = delete;
+    SqlTransaction& operator=(const SqlTransaction&) = delete;
+
+    /// Once. If it throws, nothing was written.
+    void commit();
+
+private:
+    void rollBack() noexcept;
+
+    SqlConnection& m_connection;
+    const int m_level;
+    bool m_open = true;
+};
+
+} // namespace TechDB

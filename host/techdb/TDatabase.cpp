@@ -1,0 +1,207 @@
+#include "TDatabase.h"
+
+#include "AnalysisStore.h"
+#include "DatabaseRegistry.h"
+#include "DatasetStore.h"
+#include "MessageLoggerInterface.h"
+#include "ObjectPool.h"
+#include "ProjectFile.h"
+#include "SqlConnection.h"
+#include "Transaction.h"
+#include "VKError.h"
+
+#include <utility>
+
+namespace TechDB {
+
+std::unique_ptr<TDatabase> TDatabase::create(const QString& path) {
+    return std::unique_ptr<TDatabase>(new TDatabase(ProjectFile::create(path, ProjectSchema::current())));
+}
+
+std::unique_ptr<TDatabase> TDatabase::open(const QString& path, const ProjectSchema& schema) {
+    return std::unique_ptr<TDatabase>(new TDatabase(ProjectFile::open(path, schema)));
+}
+
+TDatabase::TDatabase(std::unique_ptr<SqlConnection> connection)
+    : m_connection(std::move(connection)), m_objects(std::make_unique<ObjectPool>(this)),
+      m_projectId(ProjectSchema::projectIdOf(*m_connection)) {
+    qRegisterMetaType<ObjectChanges>("TechDB::ObjectChanges"); // the signal may be queued
+    DatabaseRegistry::add(this);
+}
+
+TDatabase::~TDatabase() {
+    DatabaseRegistry::remove(this);
+}
+
+const QString& TDatabase::path() const {
+    return m_connection->place();
+}
+
+QVector<AnalysisInfo> TDatabase::analyses() const {
+    return AnalysisStore(*m_connection).all();
+}
+
+const VKObject2Analysis* TDatabase::getAnalysis(const QString& name) const {
+    const std::optional<AnalysisInfo> info = AnalysisStore(*m_connection).byName(name);
+    return info ? m_objects->analysis(*info) : nullptr;
+}
+
+const VKObject2Analysis* TDatabase::analysisByKey(qint64 key) const {
+    const std::optional<AnalysisInfo> info = AnalysisStore(*m_connection).byKey(key);
+    return info ? m_objects->analysis(*info) : nullptr;
+}
+
+const VKObject2Analysis* TDatabase::addAnalysis(const QString& name, const QString& analysisType,
+                                                const TAnalysisData& curve) {
+    Transaction transaction(*this);
+    const qint64 key = AnalysisStore(*m_connection).add(name, analysisType, curve);
+    record(ObjectChange::Kind::Added, VKObjectType::Analysis, key);
+    transaction.commit();
+    return analysisByKey(key);
+}
+
+void TDatabase::renameAnalysis(qint64 key, const QString& name) {
+    Transaction transaction(*this);
+    AnalysisStore store(*m_connection);
+    const auto former = store.byKey(key);
+    store.rename(key, name);
+    m_objects->rename(VKObjectType::Analysis, key, name);
+    record(ObjectChange::Kind::Renamed, VKObjectType::Analysis, key, former->name);
+    transaction.commit();
+}
+
+void TDatabase::removeAnalysis(qint64 key) {
+    Transaction transaction(*this);
+    AnalysisStore(*m_connection).remove(key);
+    record(ObjectChange::Kind::Removed, VKObjectType::Analysis, key);
+    transaction.commit();
+}
+
+TAnalysisData TDatabase::curve(qint64 analysis) const {
+    return AnalysisStore(*m_connection).curve(analysis);
+}
+
+bool TDatabase::analysisData(const VKObject2Analysis* analysis, TAnalysisData** data) {
+    if (data == nullptr) {
+        return false;
+    }
+    *data = nullptr;
+    if (analysis == nullptr || analysis->db() == nullptr) {
+        MessageLoggerInterface::Error(tr("No curve is stored for an object that stands in no project.",
+                                         "Aucune courbe n'est enregistrée pour un objet qui n'est dans aucun "
+                                         "projet."));
+        return false;
+    }
+    TDatabase& database = *analysis->db();
+    try {
+        database.m_lastCurve = std::make_unique<TAnalysisData>(database.curve(analysis->key()));
+    } catch (const VKError& error) {
+        MessageLoggerInterface::Error(error.text());
+        return false;
+    }
+    *data = database.m_lastCurve.get();
+    return true;
+}
+
+QVector<DatasetInfo> TDatabase::datasets() const {
+    return DatasetStore(*m_connection).all();
+}
+
+const VKObject2Well* TDatabase::getWell(const QString& name) const {
+    const std::optional<DatasetInfo> info = DatasetStore(*m_connection).byName(name);
+    return info ? m_objects->well(*info) : nullptr;
+}
+
+const VKObject2Well* TDatabase::wellByKey(qint64 key) const {
+    const std::optional<DatasetInfo> info = DatasetStore(*m_connection).byKey(key);
+    return info ? m_objects->well(*info) : nullptr;
+}
+
+const VKObject2Well* TDatabase::addWell(const QString& name) {
+    Transaction transaction(*this);
+    const qint64 key = DatasetStore(*m_connection).add(name);
+    record(ObjectChange::Kind::Added, VKObjectType::Well, key);
+    transaction.commit();
+    return wellByKey(key);
+}
+
+void TDatabase::renameWell(qint64 key, const QString& name) {
+    Transaction transaction(*this);
+    DatasetStore store(*m_connection);
+    const auto former = store.byKey(key);
+    store.rename(key, name);
+    m_objects->rename(VKObjectType::Well, key, name);
+    record(ObjectChange::Kind::Renamed, VKObjectType::Well, key, former->name);
+    transaction.commit();
+}
+
+void TDatabase::removeWell(qint64 key) {
+    Transaction transaction(*this);
+    DatasetStore(*m_connection).remove(key);
+    record(ObjectChange::Kind::Removed, VKObjectType::Well, key);
+    transaction.commit();
+}
+
+QVector<SampleInfo> TDatabase::samples(qint64 well) const {
+    return DatasetStore(*m_connection).samples(well);
+}
+
+qint64 TDatabase::addSample(qint64 well, const QString& name, const SampleTable& table) {
+    Transaction transaction(*this);
+    const qint64 key = DatasetStore(*m_connection).addSample(well, name, table);
+    record(ObjectChange::Kind::Changed, VKObjectType::Well, well);
+    transaction.commit();
+    return key;
+}
+
+SampleTable TDatabase::sampleTable(qint64 sample) const {
+    return DatasetStore(*m_connection).sampleTable(sample);
+}
+
+void TDatabase::backupTo(const QString& path) const {
+    ProjectFile::copy(*m_connection, path);
+}
+
+QStringList TDatabase::problems() const {
+    QStringList list;
+    m_connection->select(m_connection->dialect().checkWhole(), {}, [&list](const QSqlQuery& row) {
+        const QString text = row.value(0).toString();
+        if (text != QLatin1String("ok")) {
+            list.append(text.toHtmlEscaped());
+        }
+    });
+    m_connection->select(m_connection->dialect().checkReferences(), {}, [&list](const QSqlQuery& row) {
+        list.append(tr("The table <b>%1</b> refers to a row that isn't there.",
+                       "La table <b>%1</b> renvoie à une ligne absente.")
+                        .arg(row.value(0).toString().toHtmlEscaped()));
+    });
+    return list + AnalysisStore(*m_connection).problems();
+}
+
+void TDatabase::record(ObjectChange::Kind kind, VKObjectType type, qint64 key, const QString& formerName) {
+    m_changes.append({{kind, type, key}, formerName});
+}
+
+void TDatabase::announceChanges() {
+    ObjectChanges changes;
+    const QVector<UncommittedChange> committed = std::exchange(m_changes, {});
+    for (const UncommittedChange& one : committed) {
+        changes.append(one.change);
+    }
+    if (!changes.isEmpty()) {
+        emit changed(changes);
+    }
+}
+
+void TDatabase::takeBackChanges(int firstChange) {
+    while (m_changes.size() > firstChange) {
+        const UncommittedChange last = m_changes.takeLast();
+        if (last.change.kind == ObjectChange::Kind::Added) {
+            m_objects->retire(last.change.type, last.change.key);
+        } else if (last.change.kind == ObjectChange::Kind::Renamed) {
+            m_objects->rename(last.change.type, last.change.key, last.formerName);
+        }
+    }
+}
+
+} // namespace TechDB

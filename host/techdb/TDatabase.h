@@ -1,0 +1,110 @@
+#pragma once
+
+#include "ObjectChange.h"
+#include "ProjectSchema.h"
+#include "SampleTable.h"
+#include "StoredObject.h"
+#include "TAnalysisData.h"
+
+#include <QObject>
+#include <QVector>
+
+#include <memory>
+
+class VKObject2Analysis;
+class VKObject2Well;
+
+namespace TechDB {
+
+class ObjectPool;
+class SqlConnection;
+
+/// An open project: analyses, each with its curve, and datasets, each with named samples. It is open as
+/// long as the object lives; its objects (VKObject2) live as long. Several windows may have one file open:
+/// what one has committed is what the others read next.
+///
+/// Every operation that writes is a transaction, or a savepoint of one that is open (`Transaction`): it is
+/// done whole or not at all. Names are unique among analyses and among datasets, letter by letter. What
+/// fails is thrown as VKError. For the thread that made it.
+class TDatabase : public QObject {
+    Q_OBJECT
+
+public:
+    /// Makes a new project at a path where nothing lies.
+    static std::unique_ptr<TDatabase> create(const QString& path);
+    /// Opens a project. One of an older version is brought to the present one, after a copy of it was
+    /// written beside it; one of a newer version is refused.
+    static std::unique_ptr<TDatabase> open(const QString& path,
+                                           const ProjectSchema& schema = ProjectSchema::current());
+    /// Closes the project. No transaction may be open.
+    ~TDatabase() override;
+
+    const QString& path() const;
+    /// Made with the project and copied with its file.
+    const QString& projectId() const { return m_projectId; }
+
+    /// In the order of storing.
+    QVector<AnalysisInfo> analyses() const;
+    /// Null if there is none.
+    const VKObject2Analysis* getAnalysis(const QString& name) const;
+    const VKObject2Analysis* analysisByKey(qint64 key) const;
+    /// Refuses a curve that no module could work with (`TAnalysisData::whyUnusable`) and a name that is
+    /// taken. The type is what the analysis was measured for.
+    const VKObject2Analysis* addAnalysis(const QString& name, const QString& analysisType,
+                                         const TAnalysisData& curve);
+    void renameAnalysis(qint64 key, const QString& name);
+    void removeAnalysis(qint64 key);
+    /// The stored curve, bit for bit. Refuses what `addAnalysis` would, in whatever way it came to the file.
+    TAnalysisData curve(qint64 analysis) const;
+
+    /// Gives the stored curve of an analysis or of its signal. It belongs to the database and is valid until
+    /// the next call for an object of the same database, or until that is closed. If it can't be read, the
+    /// result is false, the output null, and the log says why.
+    static bool analysisData(const VKObject2Analysis* analysis, TAnalysisData** data);
+
+    QVector<DatasetInfo> datasets() const;
+    const VKObject2Well* getWell(const QString& name) const;
+    const VKObject2Well* wellByKey(qint64 key) const;
+    /// Makes an empty dataset.
+    const VKObject2Well* addWell(const QString& name);
+    void renameWell(qint64 key, const QString& name);
+    void removeWell(qint64 key);
+
+    QVector<SampleInfo> samples(qint64 well) const;
+    /// Stores a sample under a name that its dataset doesn't hold yet, and returns its key.
+    qint64 addSample(qint64 well, const QString& name, const SampleTable& table);
+    SampleTable sampleTable(qint64 sample) const;
+
+    /// Writes a whole, checked copy; what lies under the path is replaced once the copy is complete.
+    void backupTo(const QString& path) const;
+    /// Reads all of the file and tells, one sentence each, what is wrong with it. Empty if nothing is.
+    QStringList problems() const;
+
+signals:
+    /// What this object has changed in the project, after it was committed, in one go for a transaction.
+    void changed(const TechDB::ObjectChanges& changes);
+
+protected:
+    explicit TDatabase(std::unique_ptr<SqlConnection> connection);
+
+private:
+    friend class Transaction;
+
+    struct UncommittedChange {
+        ObjectChange change;
+        /// Of an object that was renamed.
+        QString formerName;
+    };
+
+    void record(ObjectChange::Kind kind, VKObjectType type, qint64 key, const QString& formerName = {});
+    void announceChanges();
+    void takeBackChanges(int firstChange);
+
+    std::unique_ptr<SqlConnection> m_connection;
+    std::unique_ptr<ObjectPool> m_objects;
+    std::unique_ptr<TAnalysisData> m_lastCurve;
+    QString m_projectId;
+    QVector<UncommittedChange> m_changes;
+};
+
+} // namespace TechDB

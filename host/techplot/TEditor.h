@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+namespace TechPlot {
+
+/// Base of the plot area's editors: a widget that holds viewers. It is open from its construction until
+/// `close` or its end, and owns what was made for it and stands in no viewer (see TNode).
+class TEditor : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TEditor(QWidget* parent = nullptr);
+    ~TEditor() override;
+
+    /// Fits the viewers to the space there is.
+    virtual void adjustViewers() = 0;
+
+    /// Takes nothing more into its ownership and disposes of itself later than the running event. What
+    /// is called a second time does nothing.
+    void release();
+
+    /// The parent of the plotters that no viewer holds.
+    QObject* looseParts() const { return m_looseParts; }
+
+private:
+    QObject* m_looseParts;
+};
+
+} // namespace TechPlot

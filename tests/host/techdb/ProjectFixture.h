@@ -1,0 +1,95 @@
+#pragma once
+
+#include "TDatabase.h"
+#include "VKError.h"
+#include "VKObject2Signal.h"
+#include "VKObject2Well.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/// A project file in a folder of its own, and what is done to it behind the library's back.
+class ProjectTest : public testing::Test {
+protected:
+    ProjectTest() { database = TechDB::TDatabase::create(path()); }
+
+    QString path(const QString& file = QStringLiteral("lab.vornproj")) const { return folder.filePath(file); }
+    QStringList filesInFolder() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
+    void reopen() {
+        database.reset();
+        database = TechDB::TDatabase::open(path());
+    }
+
+    static QByteArray bytesOf(const QString& file) {
+        QFile opened(file);
+        return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("unreadable");
+    }
+    static void write(const QString& file, const QByteArray& bytes) {
+        QFile opened(file);
+        ASSERT_TRUE(opened.open(QIODevice::WriteOnly));
+        ASSERT_EQ(opened.write(bytes), bytes.size());
+    }
+
+    /// Runs statements through a connection without foreign keys, as another program would, and gives the
+    /// first column of the last one's first row.
+    static QVariant sql(const QString& file, const QStringList& statements) {
+        QVariant result;
+        {
+            QSqlDatabase connection = QSqlDatabase::addDatabase("QSQLITE", "behind");
+            connection.setDatabaseName(file);
+            EXPECT_TRUE(connection.open());
+            QSqlQuery query(connection);
+            for (const QString& statement : statements) {
+                EXPECT_TRUE(query.exec(statement)) << qPrintable(statement + query.lastError().text());
+                result = query.next() ? query.value(0) : QVariant();
+                query.finish();
+            }
+        }
+        QSqlDatabase::removeDatabase("behind");
+        return result;
+    }
+
+    /// The text of the failure, empty if there was none.
+    template <typename Operation>
+    static std::string failure(const Operation& operation) {
+        try {
+            operation();
+        } catch (const VKError& error) {
+            return error.text().toStdString();
+        }
+        return {};
+    }
+
+    static TAnalysisData ramp(int points = 3) {
+        std::vector<float> x;
+        for (int i = 0; i < points; ++i) {
+            x.push_back(static_cast<float>(i));
+        }
+        return {x, std::vector<float>(x.rbegin(), x.rend())};
+    }
+
+    QStringList analysisNames() const {
+        QStringList names;
+        for (const TechDB::AnalysisInfo& info : database->analyses()) {
+            names.append(info.name);
+        }
+        return names;
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<TechDB::TDatabase> database;
+};
+
+/// Succeeds if `text` holds `part`.
+inline testing::AssertionResult says(const std::string& text, const std::string& part) {
+    if (text.find(part) != std::string::npos) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << "\"" << text << "\" doesn't say \"" << part << "\"";
+}

@@ -1,0 +1,71 @@
+#include "ProjectFixture.h"
+
+#include "MessageCollector.h"
+
+using TechDB::ProjectSchema;
+using TechDB::TDatabase;
+
+namespace {
+
+class Migration : public ProjectTest {
+protected:
+    void SetUp() override {
+        database->addAnalysis("A", {}, ramp());
+        database.reset();
+        MessageLoggerInterface::setDefaultLogger(&log);
+    }
+
+    int version(const QString& file = {}) const {
+        return sql(file.isEmpty() ? path() : file, {"SELECT schema_version FROM project"}).toInt();
+    }
+
+    const ProjectSchema third{
+        {},
+        {{"ALTER TABLE analyses ADD COLUMN note TEXT", "UPDATE analyses SET note = 'from ' || name"},
+         {"ALTER TABLE analyses ADD COLUMN depth {double}"}}};
+    MessageCollector log;
+};
+
+} // namespace
+
+TEST_F(Migration, an_older_project_is_copied_then_brought_forward_step_by_step) {
+    const QString backup = path("lab.version-1.vornproj");
+    {
+        const std::unique_ptr<TDatabase> opened = TDatabase::open(path(), third);
+        EXPECT_EQ(opened->analyses().size(), 1);
+    }
+    EXPECT_EQ(version(), 3);
+    EXPECT_EQ(sql(path(), {"SELECT note || coalesce(depth, '!') FROM analyses"}).toString(), "from A!");
+    EXPECT_EQ(version(backup), 1);
+    EXPECT_EQ(TDatabase::open(backup)->analyses().size(), 1);
+    EXPECT_TRUE(
+        says(log.messages(MessageLevel::Information).join("|").toStdString(), "lab.version-1.vornproj"));
+
+    TDatabase::open(path(), third);
+    EXPECT_EQ(filesInFolder(), QStringList({"lab.version-1.vornproj", "lab.vornproj"})) << "no second backup";
+}
+
+TEST_F(Migration, a_step_that_fails_leaves_the_project_as_it_was_and_names_the_copy) {
+    write(path("lab.version-1.vornproj"), "somebody else's");
+    const ProjectSchema broken{{},
+                               {{"ALTER TABLE analyses ADD COLUMN note TEXT", "UPDATE absent SET x = 1"}}};
+    const std::string text = failure([&] { TDatabase::open(path(), broken); });
+    EXPECT_TRUE(says(text, "is as it was"));
+    EXPECT_TRUE(says(text, "no such table: absent"));
+    EXPECT_TRUE(says(text, "lab.version-1-2.vornproj"));
+    EXPECT_EQ(version(), 1);
+    EXPECT_EQ(sql(path(), {"SELECT count(*) FROM pragma_table_info('analyses') WHERE name = 'note'"}).toInt(),
+              0);
+    EXPECT_EQ(bytesOf(path("lab.version-1.vornproj")), "somebody else's");
+    EXPECT_EQ(TDatabase::open(path())->analyses().size(), 1);
+}
+
+TEST_F(Migration, a_newer_project_is_refused_and_not_touched) {
+    sql(path(), {"UPDATE project SET schema_version = 7"});
+    const QByteArray bytes = bytesOf(path());
+    const std::string text = failure([&] { TDatabase::open(path()); });
+    EXPECT_TRUE(says(text, "saved by a newer version"));
+    EXPECT_TRUE(says(text, "format is 7, this version knows formats up to 1"));
+    EXPECT_EQ(bytesOf(path()), bytes);
+    EXPECT_EQ(filesInFolder(), QStringList("lab.vornproj"));
+}
