@@ -1,0 +1,132 @@
+#include "MainMenu.h"
+
+#include "LanguageSwitch.h"
+#include "MainWindow.h"
+#include "ProjectCommands.h"
+#include "ProjectTree.h"
+#include "QualityCheck.h"
+#include "TLineIcon.h"
+#include "VKRibbon.h"
+#include "VKRibbonBar.h"
+#include "VKRibbonGroup.h"
+
+#include <QActionGroup>
+#include <QBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QToolButton>
+
+MainMenu::MainMenu(MainWindow& window, ProjectCommands& projects, QualityCheck& qualityCheck,
+                   LanguageSwitch& language)
+    : QObject(&window), m_window(window), m_project(window.menuBar()->addMenu(QString())),
+      m_objects(window.menuBar()->addMenu(QString())), m_check(window.menuBar()->addMenu(QString())),
+      m_view(window.menuBar()->addMenu(QString())), m_languages(new QMenu(&window)),
+      m_help(window.menuBar()->addMenu(QString())),
+      m_qualityCheck(action(QStringLiteral("modules/vorn_2015/Vorn_SourceRock_QAQC"),
+                            QKeySequence(Qt::CTRL + Qt::Key_Q + Qt::SHIFT))),
+      m_export(action(QStringLiteral("export"))),
+      m_find(action(QStringLiteral("search"), QKeySequence::Find)),
+      m_quit(action(QStringLiteral("close_project"), QKeySequence::Quit)),
+      m_guide(action(QStringLiteral("help"), QKeySequence::HelpContents)),
+      m_about(action(QStringLiteral("info"))) {
+    buildMenus(projects, qualityCheck);
+    buildStartBar(projects);
+    buildLanguages(language);
+    translate();
+}
+
+QAction* MainMenu::action(const QString& icon, const QKeySequence& shortcut) {
+    auto* const made = new QAction(TLineIcon::icon(icon), {}, this);
+    made->setShortcut(shortcut);
+    return made;
+}
+
+void MainMenu::buildMenus(ProjectCommands& projects, QualityCheck& qualityCheck) {
+    m_project->addActions({projects.newAction(), projects.openAction()});
+    m_project->addMenu(projects.recentMenu());
+    m_project->addActions({projects.exampleAction(), projects.backupAction()});
+    m_project->addSeparator();
+    m_project->addAction(m_quit);
+
+    const ProjectTree& tree = m_window.tree();
+    m_objects->addActions({tree.openAction(), tree.sendAction(), tree.exportAction()});
+    m_objects->addSeparator();
+    m_objects->addActions({tree.renameAction(), tree.removeAction()});
+    m_objects->addSeparator();
+    m_objects->addAction(m_find);
+
+    m_check->addActions({m_qualityCheck, m_export});
+    m_view->addMenu(m_languages);
+    m_help->addActions({m_guide, m_about});
+
+    connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
+    connect(m_find, &QAction::triggered, &m_window.tree(), &ProjectTree::focusFilter);
+    connect(m_qualityCheck, &QAction::triggered, &qualityCheck, &QualityCheck::start);
+    connect(m_export, &QAction::triggered, &qualityCheck, &QualityCheck::exportForLearning);
+    connect(m_guide, &QAction::triggered, this, [this] { emit helpRequested(0); });
+    connect(m_about, &QAction::triggered, this, &MainMenu::showAbout);
+}
+
+void MainMenu::buildStartBar(ProjectCommands& projects) {
+    VKRibbonBar* const bar = m_window.ribbon().startBar();
+    m_projectGroup = bar->addGroup({});
+    m_projectGroup->addActionButton(projects.newAction());
+    m_projectGroup->addActionButton(projects.openAction());
+    m_projectGroup->addActionButton(projects.recentMenu()->menuAction())
+        ->setPopupMode(QToolButton::InstantPopup);
+    m_projectGroup->addActionButton(projects.exampleAction());
+    m_projectGroup->addActionButton(projects.backupAction());
+    m_moduleGroup = bar->addGroup({});
+    m_moduleGroup->addActionButton(m_qualityCheck);
+    m_helpGroup = bar->addGroup({});
+    m_helpGroup->addActionButton(m_guide);
+}
+
+void MainMenu::buildLanguages(LanguageSwitch& language) {
+    m_languages->setIcon(TLineIcon::icon(QStringLiteral("language")));
+    auto* const group = new QActionGroup(this);
+    using Language = LanguageSwitch::Language;
+    // Each in its own tongue, so that who is lost finds the way.
+    for (const auto& [name, choice] :
+         {std::make_pair("English", Language::English), std::make_pair("Français", Language::French)}) {
+        QAction* const entry = m_languages->addAction(QString::fromUtf8(name));
+        entry->setCheckable(true);
+        entry->setActionGroup(group);
+        entry->setChecked(language.language() == choice);
+        connect(entry, &QAction::triggered, &language,
+                [&language, choice = choice] { language.choose(choice); });
+        connect(&language, &LanguageSwitch::languageChanged, entry,
+                [entry, &language, choice = choice] { entry->setChecked(language.language() == choice); });
+    }
+}
+
+void MainMenu::translate() {
+    m_project->setTitle(tr("&Project", "&Projet"));
+    m_objects->setTitle(tr("&Data", "&Données"));
+    m_check->setTitle(tr("&Quality check", "Contrôle &qualité"));
+    m_view->setTitle(tr("&View", "&Affichage"));
+    m_languages->setTitle(tr("&Language", "&Langue"));
+    m_help->setTitle(tr("&Help", "A&ide"));
+    m_projectGroup->setTitle(tr("Project", "Projet"));
+    m_moduleGroup->setTitle(tr("Modules", "Modules"));
+    m_helpGroup->setTitle(tr("Help", "Aide"));
+    m_qualityCheck->setText(tr("Quality check", "Contrôle qualité"));
+    m_qualityCheck->setToolTip(
+        tr("Grade analyses as good, double or flat", "Évaluer les analyses : bonne, double ou plate"));
+    m_export->setText(tr("Export for machine learning", "Exporter pour l'apprentissage automatique"));
+    m_find->setText(tr("Find", "Rechercher"));
+    m_quit->setText(tr("Quit", "Quitter"));
+    m_guide->setText(tr("User guide", "Guide d'utilisation"));
+    m_about->setText(tr("About", "À propos"));
+}
+
+void MainMenu::showAbout() {
+    QMessageBox::about(
+        &m_window, tr("About", "À propos"),
+        tr("<b>Vorn workbench %1</b><br>Imports and grades pyrolysis curves.<br>Made with Qt %2 "
+           "and Qwt.",
+           "<b>Atelier Vorn %1</b><br>Importe et évalue des courbes de pyrolyse.<br>Réalisé avec Qt "
+           "%2 et Qwt.")
+            .arg(QStringLiteral(VORN_VERSION), QString::fromLatin1(qVersion())));
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QObject>
+
+class LanguageSwitch;
+class MainWindow;
+class ProjectCommands;
+class QAction;
+class QMenu;
+class QualityCheck;
+class VKRibbonGroup;
+
+/// The menus, and the ribbon's start tab with the same actions as buttons.
+class MainMenu : public QObject {
+    Q_OBJECT
+
+public:
+    /// All of them outlive this object, which belongs to the window.
+    MainMenu(MainWindow& window, ProjectCommands& projects, QualityCheck& qualityCheck,
+             LanguageSwitch& language);
+
+public slots:
+    void translate();
+
+signals:
+    void helpRequested(int helpId);
+
+private:
+    QAction* action(const QString& icon, const QKeySequence& shortcut = {});
+    void buildMenus(ProjectCommands& projects, QualityCheck& qualityCheck);
+    void buildStartBar(ProjectCommands& projects);
+    void buildLanguages(LanguageSwitch& language);
+    void showAbout();
+
+    MainWindow& m_window;
+    QMenu* m_project;
+    QMenu* m_objects;
+    QMenu* m_check;
+    QMenu* m_view;
+    QMenu* m_languages;
+    QMenu* m_help;
+    QAction* m_qualityCheck;
+    QAction* m_export;
+    QAction* m_find;
+    QAction* m_quit;
+    QAction* m_guide;
+    QAction* m_about;
+    VKRibbonGroup* m_projectGroup;
+    VKRibbonGroup* m_moduleGroup;
+    VKRibbonGroup* m_helpGroup;
+};

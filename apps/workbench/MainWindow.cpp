@@ -1,0 +1,74 @@
+#include "MainWindow.h"
+
+#include "LogPanel.h"
+#include "ProjectTree.h"
+#include "VKRibbon.h"
+#include "Workspace.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSettings>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int treeWidth = 296;
+constexpr int logHeight = 120;
+constexpr int smallestTree = 200;
+constexpr int smallestLog = 72;
+
+} // namespace
+
+MainWindow::MainWindow(MessageLogModel& log)
+    : m_ribbon(new VKRibbon), m_tree(new ProjectTree), m_workspace(new Workspace), m_log(new LogPanel(log)),
+      m_columns(new QSplitter(Qt::Horizontal)), m_rows(new QSplitter(Qt::Vertical)) {
+    m_columns->setObjectName(QStringLiteral("columns"));
+    m_rows->setObjectName(QStringLiteral("rows"));
+    m_tree->setMinimumWidth(smallestTree);
+    m_log->setMinimumHeight(smallestLog);
+    m_rows->addWidget(m_workspace);
+    m_rows->addWidget(m_log);
+    m_rows->setStretchFactor(0, 1);
+    m_columns->addWidget(m_tree);
+    m_columns->addWidget(m_rows);
+    m_columns->setStretchFactor(1, 1);
+    for (QSplitter* const splitter : {m_columns, m_rows}) {
+        splitter->setChildrenCollapsible(false);
+    }
+
+    auto* const content = new QWidget;
+    auto* const rows = new QVBoxLayout(content);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(m_ribbon);
+    rows->addWidget(m_columns, 1);
+    setCentralWidget(content);
+    restore();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::restore() {
+    const QSettings settings;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    resize(QSize(1280, 800).boundedTo(screen.size()));
+    m_columns->setSizes({treeWidth, width() - treeWidth});
+    m_rows->setSizes({height() - logHeight, logHeight});
+    restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
+    m_columns->restoreState(settings.value(QStringLiteral("window/columns")).toByteArray());
+    m_rows->restoreState(settings.value(QStringLiteral("window/rows")).toByteArray());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (m_mayClose && !m_mayClose()) {
+        event->ignore();
+        return;
+    }
+    QSettings settings;
+    settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("window/columns"), m_columns->saveState());
+    settings.setValue(QStringLiteral("window/rows"), m_rows->saveState());
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,114 @@
+#include "ProjectMgr.h"
+
+#include "TDatabase.h"
+#include "VKError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <utility>
+
+namespace {
+
+constexpr int mostRecent = 8;
+const QString recentKey = QStringLiteral("projects/recent");
+
+bool isSameFile(const QString& a, const QString& b) {
+    const QString canonical = QFileInfo(a).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
+}
+
+/// What a database engine may have left beside a file of this name.
+void removeWithLogs(const QString& path) {
+    for (const char* const suffix : {"", "-wal", "-shm", "-journal"}) {
+        QFile::remove(path + QLatin1String(suffix));
+    }
+}
+
+} // namespace
+
+ProjectMgr::ProjectMgr() = default;
+
+ProjectMgr::~ProjectMgr() {
+    close();
+}
+
+TechDB::TDatabase* ProjectMgr::projectDatabase() const {
+    return m_project.get();
+}
+
+VKDatabaseImport* ProjectMgr::importDatabase() const {
+    return nullptr; // no module of this application imports yet
+}
+
+void ProjectMgr::open(const QString& path) {
+    if (m_project != nullptr && isSameFile(path, m_project->path())) {
+        return;
+    }
+    std::unique_ptr<TechDB::TDatabase> project = TechDB::TDatabase::open(path);
+    close();
+    m_project = std::move(project);
+    remember(path);
+    emit opened(m_project.get());
+}
+
+void ProjectMgr::create(const QString& path) {
+    create(path, [](TechDB::TDatabase&) {});
+}
+
+void ProjectMgr::create(const QString& path, const std::function<void(TechDB::TDatabase&)>& fill) {
+    if (m_project != nullptr && isSameFile(path, m_project->path())) {
+        throw VKError(tr("The project <b>%1</b> is open.", "Le projet <b>%1</b> est ouvert.")
+                          .arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
+                      {},
+                      tr("Choose another name for the new one.", "Choisissez un autre nom pour le nouveau."));
+    }
+    const QString unfinished = path + QStringLiteral(".new");
+    removeWithLogs(unfinished);
+    {
+        const std::unique_ptr<TechDB::TDatabase> project = TechDB::TDatabase::create(unfinished);
+        fill(*project);
+    }
+    removeWithLogs(path);
+    if (!QFile::rename(unfinished, path)) {
+        removeWithLogs(unfinished);
+        throw VKError(
+            tr("The project <b>%1</b> can't be written.", "Le projet <b>%1</b> ne peut pas être écrit.")
+                .arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
+            {},
+            tr("Check that its folder may be written, or choose another one.",
+               "Vérifiez que l'écriture est permise dans son dossier, ou choisissez-en un autre."));
+    }
+    open(path);
+}
+
+void ProjectMgr::close() {
+    if (m_project == nullptr) {
+        return;
+    }
+    emit closing();
+    m_project.reset();
+    emit opened(nullptr);
+}
+
+QStringList ProjectMgr::recentProjects() {
+    QStringList there;
+    const QStringList all = QSettings().value(recentKey).toStringList();
+    for (const QString& path : all) {
+        if (QFileInfo(path).isFile()) {
+            there.append(path);
+        }
+    }
+    return there;
+}
+
+void ProjectMgr::remember(const QString& path) {
+    QSettings settings;
+    QStringList recent = settings.value(recentKey).toStringList();
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    recent.removeAll(absolute);
+    recent.prepend(absolute);
+    settings.setValue(recentKey, QStringList(recent.mid(0, mostRecent)));
+}

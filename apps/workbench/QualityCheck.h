@@ -1,0 +1,43 @@
+#pragma once
+
+#include "VKObject2.h"
+#include "VKRibbonModuleBar.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class ModuleLauncher;
+class RibbonHost;
+class TrialGate;
+class VKListViewSignal;
+class Workspace;
+
+/// The quality check as the application's menus reach it. One is open at a time.
+class QualityCheck : public QObject {
+    Q_OBJECT
+
+public:
+    /// All three outlive this object.
+    QualityCheck(RibbonHost& ribbon, ModuleLauncher& launcher, Workspace& workspace);
+
+    /// Opens it, or brings it to front.
+    void start();
+    bool isOpen() const { return !m_bar.isNull(); }
+    VKRibbonModuleBar* bar() const { return m_bar; }
+    /// The list of signals; null while it isn't open.
+    VKListViewSignal* list() const;
+
+    /// Drops the objects on the list as a mouse would, and opens the quality check before if need be.
+    void send(const QList<const VKObject2*>& objects);
+
+    /// Lets it write its file for machine learning into the project's folder, and shows the file.
+    void exportForLearning();
+
+private:
+    Workspace& m_workspace;
+    RibbonHost& m_ribbon;
+    ModuleLauncher& m_launcher;
+    TrialGate* m_gate;
+    QPointer<VKRibbonModuleBar> m_bar;
+};

@@ -1,0 +1,62 @@
+#include "Workbench.h"
+
+#include "HelpPage.h"
+#include "MainMenu.h"
+#include "ProjectTree.h"
+#include "TDatabase.h"
+#include "VKObject2.h"
+#include "Workspace.h"
+
+#include <QFileInfo>
+
+Workbench::Workbench()
+    : m_window(m_log), m_ribbon(m_window.ribbon()), m_application(m_window), m_launcher(m_window.workspace()),
+      m_qualityCheck(m_ribbon, m_launcher, m_window.workspace()),
+      m_projectCommands(m_projects, m_launcher, m_window), m_objectCommands(m_launcher, m_window),
+      m_menu(new MainMenu(m_window, m_projectCommands, m_qualityCheck, m_language)) {
+    MessageLoggerInterface::setDefaultLogger(&m_log);
+    wireProject();
+    wireTree();
+    connect(&m_language, &LanguageSwitch::languageChanged, &m_projectCommands, &ProjectCommands::translate);
+    connect(&m_language, &LanguageSwitch::languageChanged, m_menu, &MainMenu::translate);
+    connect(&m_language, &LanguageSwitch::languageChanged, this, &Workbench::showTitle);
+    connect(m_menu, &MainMenu::helpRequested, this, &Workbench::showHelp);
+    connect(&m_application, &ApplicationHost::helpRequested, this, &Workbench::showHelp);
+    m_window.setCloseGuard([this] { return m_launcher.closeAll(); });
+    showTitle();
+}
+
+Workbench::~Workbench() {
+    m_launcher.closeAll();
+    m_projects.close();
+}
+
+void Workbench::wireProject() {
+    connect(&m_projects, &ProjectMgr::closing, this, [this] {
+        m_window.tree().setProject(nullptr);
+        m_window.workspace().closePages();
+    });
+    connect(&m_projects, &ProjectMgr::opened, this, [this](TechDB::TDatabase* project) {
+        m_window.tree().setProject(project);
+        showTitle();
+    });
+    connect(&m_application, &ApplicationHost::projectChanged, &m_window.tree(), &ProjectTree::refresh);
+}
+
+void Workbench::wireTree() {
+    ProjectTree& tree = m_window.tree();
+    connect(&tree, &ProjectTree::openRequested, &m_objectCommands, &ObjectCommands::open);
+    connect(&tree, &ProjectTree::exportRequested, &m_objectCommands, &ObjectCommands::exportCsv);
+    connect(&tree, &ProjectTree::sendRequested, &m_qualityCheck, &QualityCheck::send);
+}
+
+void Workbench::showHelp(int helpId) {
+    m_window.workspace().addPage(new HelpPage(helpId));
+}
+
+void Workbench::showTitle() {
+    const TechDB::TDatabase* const project = m_projects.projectDatabase();
+    const QString name =
+        project == nullptr ? tr("no project", "aucun projet") : QFileInfo(project->path()).completeBaseName();
+    m_window.setWindowTitle(tr("%1 – Vorn workbench", "%1 – Atelier Vorn").arg(name));
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "ApplicationHost.h"
+#include "LanguageSwitch.h"
+#include "MainWindow.h"
+#include "MessageLogModel.h"
+#include "ModuleLauncher.h"
+#include "ObjectCommands.h"
+#include "ProjectCommands.h"
+#include "ProjectMgr.h"
+#include "QualityCheck.h"
+#include "RibbonHost.h"
+
+class MainMenu;
+
+/// The whole application but its event loop: makes the parts in the order in which they need each other and
+/// connects them. What happens is in the parts.
+class Workbench : public QObject {
+    Q_OBJECT
+
+public:
+    Workbench();
+    ~Workbench() override;
+
+    MainWindow& window() { return m_window; }
+    MessageLogModel& log() { return m_log; }
+    ProjectMgr& projects() { return m_projects; }
+    ProjectCommands& projectCommands() { return m_projectCommands; }
+    QualityCheck& qualityCheck() { return m_qualityCheck; }
+    LanguageSwitch& language() { return m_language; }
+
+private:
+    void wireProject();
+    void wireTree();
+    void showHelp(int helpId);
+    void showTitle();
+
+    // Modules end before what they reach: the launcher is destroyed first of all they use.
+    MessageLogModel m_log;
+    LanguageSwitch m_language;
+    MainWindow m_window;
+    RibbonHost m_ribbon;
+    ApplicationHost m_application;
+    ProjectMgr m_projects;
+    ModuleLauncher m_launcher;
+    QualityCheck m_qualityCheck;
+    ProjectCommands m_projectCommands;
+    ObjectCommands m_objectCommands;
+    MainMenu* m_menu;
+};

@@ -1,0 +1,152 @@
+#include "Workspace.h"
+
+#include "EmptyPage.h"
+#include "TEditor.h"
+#include "TLineIcon.h"
+#include "TableView.h"
+#include "VKDataModel.h"
+
+#include <QEvent>
+#include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolButton>
+
+namespace {
+
+constexpr int closeIcon = 12;
+
+} // namespace
+
+Workspace::Workspace(QWidget* parent)
+    : QStackedWidget(parent), m_tabs(new QTabWidget), m_empty(new EmptyPage) {
+    addWidget(m_empty);
+    addWidget(m_tabs);
+    m_tabs->setDocumentMode(true);
+    m_tabs->setMovable(true);
+    m_tabs->setElideMode(Qt::ElideMiddle);
+    // Also when a page was destroyed by its owner.
+    connect(m_tabs, &QTabWidget::currentChanged, this, &Workspace::showState);
+    auto* const close = new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_F4), this);
+    connect(close, &QShortcut::activated, this, [this] { closeTab(m_tabs->currentIndex()); });
+    translate();
+}
+
+Workspace::~Workspace() {
+    m_tabs->disconnect(this);
+}
+
+void Workspace::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        translate();
+    }
+    QStackedWidget::changeEvent(event);
+}
+
+void Workspace::translate() {
+    m_empty->setTexts(tr("No curves on screen", "Aucune courbe à l'écran"),
+                      tr("Open the quality check and drop analyses from the project on its list, then select "
+                         "signals there to see their curves.",
+                         "Ouvrez le contrôle qualité, déposez des analyses du projet sur sa liste, puis "
+                         "sélectionnez-y des signaux pour voir leurs courbes."));
+}
+
+void Workspace::showState() {
+    setCurrentWidget(m_tabs->count() == 0 ? static_cast<QWidget*>(m_empty) : m_tabs);
+}
+
+void Workspace::bringToFront(QWidget* page) {
+    m_tabs->setCurrentWidget(page);
+    showState();
+}
+
+void Workspace::showEditor(QWidget* editor) {
+    if (editor == nullptr) {
+        return;
+    }
+    if (m_tabs->indexOf(editor) < 0) {
+        m_tabs->insertTab(0, editor, editor->windowTitle()); // without a button: it is its module's to close
+        connect(editor, &QWidget::windowTitleChanged, m_tabs,
+                [this, editor](const QString& title) { m_tabs->setTabText(m_tabs->indexOf(editor), title); });
+    }
+    if (auto* const plots = dynamic_cast<TechPlot::TEditor*>(editor)) {
+        m_plots = plots;
+    }
+    bringToFront(editor);
+}
+
+void Workspace::closeEditor(QWidget* editor) {
+    const int index = editor == nullptr ? -1 : m_tabs->indexOf(editor);
+    if (index < 0) {
+        return;
+    }
+    editor->disconnect(m_tabs);
+    m_tabs->removeTab(index);
+    editor->setParent(nullptr);
+    showState();
+}
+
+void Workspace::arrangeViewers(int arrangement) {
+    if (arrangement != column || m_plots == nullptr || m_tabs->indexOf(m_plots) < 0) {
+        return;
+    }
+    bringToFront(m_plots);
+    m_plots->adjustViewers();
+}
+
+void Workspace::addTable(std::unique_ptr<VKDataModel> model) {
+    if (model == nullptr) {
+        return;
+    }
+    auto* const view = new TableView(std::move(model));
+    view->setWindowTitle(view->title());
+    connect(view, &TableView::titleChanged, view, &QWidget::setWindowTitle);
+    addPage(view);
+}
+
+void Workspace::addPage(QWidget* page) {
+    addCloseButton(page, m_tabs->addTab(page, page->windowTitle()));
+    connect(page, &QWidget::windowTitleChanged, m_tabs,
+            [this, page](const QString& title) { m_tabs->setTabText(m_tabs->indexOf(page), title); });
+    bringToFront(page);
+}
+
+void Workspace::addCloseButton(QWidget* page, int index) {
+    auto* const button = new QToolButton;
+    button->setAutoRaise(true);
+    button->setIcon(TLineIcon::icon(QStringLiteral("close")));
+    button->setIconSize(QSize(closeIcon, closeIcon));
+    button->setFocusPolicy(Qt::NoFocus); // Ctrl+F4 is the keyboard's way
+    button->setToolTip(tr("Close (Ctrl+F4)", "Fermer (Ctrl+F4)"));
+    connect(button, &QToolButton::clicked, page, [this, page] { closeTab(m_tabs->indexOf(page)); });
+    m_tabs->tabBar()->setTabButton(index, QTabBar::RightSide, button);
+}
+
+QWidget* Workspace::currentPage() const {
+    return m_tabs->currentWidget();
+}
+
+void Workspace::closeTab(int index) {
+    QWidget* const page = m_tabs->widget(index);
+    // Only what was given to this object to keep.
+    if (page == nullptr || dynamic_cast<TechPlot::TEditor*>(page) != nullptr) {
+        return;
+    }
+    m_tabs->removeTab(index);
+    page->deleteLater();
+    showState();
+}
+
+void Workspace::closePages() {
+    for (int index = m_tabs->count() - 1; index >= 0; --index) {
+        closeTab(index);
+    }
+}
+
+void Workspace::refreshTables() {
+    for (int index = 0; index < m_tabs->count(); ++index) {
+        if (auto* const table = dynamic_cast<TableView*>(m_tabs->widget(index))) {
+            table->refreshCells();
+        }
+    }
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "WorkspaceInterface.h"
+
+#include <QPointer>
+#include <QStackedWidget>
+
+#include <memory>
+
+class EmptyPage;
+class QTabWidget;
+class VKDataModel;
+
+namespace TechPlot {
+class TEditor;
+}
+
+/// The middle of the main window: the plot area first, then tables and other pages as tabs; a sentence that
+/// says what to do while there is none. Ctrl+F4 closes the page in front, where that is possible.
+class Workspace : public QStackedWidget, public WorkspaceInterface {
+    Q_OBJECT
+
+public:
+    explicit Workspace(QWidget* parent = nullptr);
+    ~Workspace() override;
+
+    void showEditor(QWidget* editor) override;
+    void closeEditor(QWidget* editor) override;
+    void arrangeViewers(int arrangement) override;
+
+    /// Shows a table in a page of its own, in front.
+    void addTable(std::unique_ptr<VKDataModel> model);
+    /// Takes a page over and shows it in front, with a close button, under its window title.
+    void addPage(QWidget* page);
+    QWidget* currentPage() const;
+
+    /// Ends all pages that this object owns.
+    void closePages();
+    /// Lets the tables show what their models say now, where cells are computed at every read.
+    void refreshTables();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void translate();
+    void bringToFront(QWidget* page);
+    void addCloseButton(QWidget* page, int index);
+    void closeTab(int index);
+    void showState();
+
+    QTabWidget* m_tabs;
+    EmptyPage* m_empty;
+    QPointer<TechPlot::TEditor> m_plots;
+};

@@ -1,0 +1,89 @@
+#include "ObjectTable.h"
+
+#include "CsvFile.h"
+#include "CurveTable.h"
+#include "DatasetTable.h"
+#include "MessageLoggerInterface.h"
+#include "TDatabase.h"
+#include "TExportCommand.h"
+#include "VKDataModelGeneric.h"
+#include "VKError.h"
+#include "VKObject2.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ObjectTable)
+};
+
+std::unique_ptr<VKDataModel> datasetTable(const TechDB::TDatabase& database, qint64 key) {
+    DatasetTable dataset;
+    for (const TechDB::SampleInfo& sample : database.samples(key)) {
+        dataset.add(sample.name, database.sampleTable(sample.key));
+    }
+    return dataset.table();
+}
+
+std::unique_ptr<VKDataModel> contentsOf(const VKObject2& object) {
+    const TechDB::TDatabase* const database = object.db();
+    if (database == nullptr) {
+        throw VKError(Texts::tr("<b>%1</b> is not stored in a project.",
+                                "<b>%1</b> n'est enregistré dans aucun projet.")
+                          .arg(object.displayName().toHtmlEscaped()));
+    }
+    if (object.type() == VKObjectType::Well) {
+        return datasetTable(*database, object.key());
+    }
+    return std::make_unique<CurveTable>(database->curve(object.key()));
+}
+
+// A path in the folder where no file lies yet.
+QString freePath(const QDir& folder, const QString& name) {
+    const QString base = TechPlot::TExportCommand::fileNameFor(name);
+    QString path = folder.filePath(base + QStringLiteral(".csv"));
+    for (int number = 2; QFileInfo::exists(path); ++number) {
+        path = folder.filePath(QStringLiteral("%1 (%2).csv").arg(base).arg(number));
+    }
+    return path;
+}
+
+bool exported(const VKObject2& object, const QString& path) {
+    try {
+        CsvFile::write(*ObjectTable::of(object), path);
+        return true;
+    } catch (const std::exception& error) { // memory may give out as well
+        VKError::dispatchError(error);
+        return false;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<VKDataModel> ObjectTable::of(const VKObject2& object) {
+    std::unique_ptr<VKDataModel> table = contentsOf(object);
+    table->setName(object.displayName(), QFileInfo(object.db()->path()).completeBaseName());
+    return table;
+}
+
+void ObjectTable::exportCsv(const QList<const VKObject2*>& objects, const QString& folderOrFile) {
+    const bool toFile = objects.size() == 1 && !QFileInfo(folderOrFile).isDir();
+    int count = 0;
+    for (const VKObject2* object : objects) {
+        const QString path = toFile ? folderOrFile : freePath(QDir(folderOrFile), object->displayName());
+        count += exported(*object, path) ? 1 : 0;
+    }
+    if (count == 0) {
+        return;
+    }
+    const QString place = QDir::toNativeSeparators(folderOrFile).toHtmlEscaped();
+    MessageLoggerInterface::Information(count == 1 ? Texts::tr("A table was exported to <b>%1</b>.",
+                                                               "Un tableau a été exporté vers <b>%1</b>.")
+                                                         .arg(place)
+                                                   : Texts::tr("%1 tables were exported to <b>%2</b>.",
+                                                               "%1 tableaux ont été exportés vers <b>%2</b>.")
+                                                         .arg(QString::number(count), place));
+}
