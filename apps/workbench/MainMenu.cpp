@@ -1,6 +1,7 @@
 #include "MainMenu.h"
 
 #include "LanguageSwitch.h"
+#include "LookSwitch.h"
 #include "MainWindow.h"
 #include "ProjectCommands.h"
 #include "ProjectTree.h"
@@ -18,11 +19,11 @@
 #include <QToolButton>
 
 MainMenu::MainMenu(MainWindow& window, ProjectCommands& projects, QualityCheck& qualityCheck,
-                   LanguageSwitch& language)
+                   LanguageSwitch& language, LookSwitch& look)
     : QObject(&window), m_window(window), m_project(window.menuBar()->addMenu(QString())),
       m_objects(window.menuBar()->addMenu(QString())), m_check(window.menuBar()->addMenu(QString())),
       m_view(window.menuBar()->addMenu(QString())), m_languages(new QMenu(&window)),
-      m_help(window.menuBar()->addMenu(QString())),
+      m_looks(new QMenu(&window)), m_help(window.menuBar()->addMenu(QString())),
       m_qualityCheck(action(QStringLiteral("modules/vorn_2015/Vorn_SourceRock_QAQC"),
                             QKeySequence(Qt::CTRL + Qt::Key_Q + Qt::SHIFT))),
       m_export(action(QStringLiteral("export"))),
@@ -33,6 +34,7 @@ MainMenu::MainMenu(MainWindow& window, ProjectCommands& projects, QualityCheck& 
     buildMenus(projects, qualityCheck);
     buildStartBar(projects);
     buildLanguages(language);
+    buildLooks(look);
     translate();
 }
 
@@ -58,6 +60,7 @@ void MainMenu::buildMenus(ProjectCommands& projects, QualityCheck& qualityCheck)
 
     m_check->addActions({m_qualityCheck, m_export});
     m_view->addMenu(m_languages);
+    m_view->addMenu(m_looks);
     m_help->addActions({m_guide, m_about});
 
     connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
@@ -101,12 +104,32 @@ void MainMenu::buildLanguages(LanguageSwitch& language) {
     }
 }
 
+void MainMenu::buildLooks(LookSwitch& look) {
+    using Scheme = LookSwitch::Scheme;
+    auto* const group = new QActionGroup(this);
+    for (const auto& [entry, scheme] :
+         {std::make_pair(&m_desktopLook, Scheme::Desktop), std::make_pair(&m_light, Scheme::Light),
+          std::make_pair(&m_dark, Scheme::Dark)}) {
+        *entry = m_looks->addAction(QString());
+        (*entry)->setCheckable(true);
+        (*entry)->setActionGroup(group);
+        (*entry)->setChecked(look.scheme() == scheme);
+        connect(*entry, &QAction::triggered, &look, [&look, scheme = scheme] { look.choose(scheme); });
+        connect(&look, &LookSwitch::schemeChanged, *entry,
+                [entry = *entry, &look, scheme = scheme] { entry->setChecked(look.scheme() == scheme); });
+    }
+}
+
 void MainMenu::translate() {
     m_project->setTitle(tr("&Project", "&Projet"));
     m_objects->setTitle(tr("&Data", "&Données"));
     m_check->setTitle(tr("&Quality check", "Contrôle &qualité"));
     m_view->setTitle(tr("&View", "&Affichage"));
     m_languages->setTitle(tr("&Language", "&Langue"));
+    m_looks->setTitle(tr("L&ook", "Appa&rence"));
+    m_desktopLook->setText(tr("As the desktop", "Comme le bureau"));
+    m_light->setText(tr("Light", "Claire"));
+    m_dark->setText(tr("Dark", "Sombre"));
     m_help->setTitle(tr("&Help", "A&ide"));
     m_projectGroup->setTitle(tr("Project", "Projet"));
     m_moduleGroup->setTitle(tr("Modules", "Modules"));

@@ -4,6 +4,7 @@
 #include <QObject>
 
 class LanguageSwitch;
+class LookSwitch;
 class MainWindow;
 class ProjectCommands;
 class QAction;
@@ -18,7 +19,7 @@ class MainMenu : public QObject {
 public:
     /// All of them outlive this object, which belongs to the window.
     MainMenu(MainWindow& window, ProjectCommands& projects, QualityCheck& qualityCheck,
-             LanguageSwitch& language);
+             LanguageSwitch& language, LookSwitch& look);
 
 public slots:
     void translate();
@@ -31,6 +32,7 @@ private:
     void buildMenus(ProjectCommands& projects, QualityCheck& qualityCheck);
     void buildStartBar(ProjectCommands& projects);
     void buildLanguages(LanguageSwitch& language);
+    void buildLooks(LookSwitch& look);
     void showAbout();
 
     MainWindow& m_window;
@@ -39,11 +41,15 @@ private:
     QMenu* m_check;
     QMenu* m_view;
     QMenu* m_languages;
+    QMenu* m_looks;
     QMenu* m_help;
     QAction* m_qualityCheck;
     QAction* m_export;
     QAction* m_find;
     QAction* m_quit;
+    QAction* m_desktopLook;
+    QAction* m_light;
+    QAction* m_dark;
     QAction* m_guide;
     QAction* m_about;
     VKRibbonGroup* m_projectGroup;

@@ -39,7 +39,15 @@ bool TrialGate::eventFilter(QObject* watched, QEvent* event) {
     if (!VKObject2Decoder::canDecode(drop.mimeData())) {
         return false;
     }
-    deliver(watched, gradable(VKObject2Decoder::decodeObject(drop.mimeData())), drop);
+    const QList<const VKObject2*> dropped = VKObject2Decoder::decodeObject(drop.mimeData());
+    const QList<const VKObject2*> good = gradable(dropped);
+    const QScopedValueRollback<bool> delivering(m_delivering, true);
+    if (good.size() == dropped.size()) {
+        QCoreApplication::sendEvent(watched, &drop);
+    } else if (!good.isEmpty()) {
+        deliver(watched, good, drop);
+    }
+    emit delivered();
     return true;
 }
 
@@ -67,15 +75,10 @@ QList<const VKObject2*> TrialGate::gradable(const QList<const VKObject2*>& objec
 }
 
 void TrialGate::deliver(QObject* list, const QList<const VKObject2*>& objects, QDropEvent& original) {
-    if (objects.isEmpty()) {
-        return;
-    }
     const std::unique_ptr<QMimeData> data(VKObject2Decoder::encode(objects));
     QDropEvent drop(original.posF(), original.possibleActions(), data.get(), original.mouseButtons(),
                     original.keyboardModifiers());
     drop.setDropAction(original.dropAction());
-    const QScopedValueRollback<bool> delivering(m_delivering, true);
     QCoreApplication::sendEvent(list, &drop);
     original.setAccepted(drop.isAccepted());
-    emit delivered();
 }

@@ -26,7 +26,7 @@ signals:
 
 private:
     static QList<const VKObject2*> gradable(const QList<const VKObject2*>& objects);
-    void deliver(QObject* list, const QList<const VKObject2*>& objects, QDropEvent& original);
+    static void deliver(QObject* list, const QList<const VKObject2*>& objects, QDropEvent& original);
 
     bool m_delivering = false;
 };

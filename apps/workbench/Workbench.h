@@ -2,6 +2,7 @@
 
 #include "ApplicationHost.h"
 #include "LanguageSwitch.h"
+#include "LookSwitch.h"
 #include "MainWindow.h"
 #include "MessageLogModel.h"
 #include "ModuleLauncher.h"
@@ -28,6 +29,7 @@ public:
     ProjectCommands& projectCommands() { return m_projectCommands; }
     QualityCheck& qualityCheck() { return m_qualityCheck; }
     LanguageSwitch& language() { return m_language; }
+    LookSwitch& look() { return m_look; }
 
 private:
     void wireProject();
@@ -38,6 +40,7 @@ private:
     // Modules end before what they reach: the launcher is destroyed first of all they use.
     MessageLogModel m_log;
     LanguageSwitch m_language;
+    LookSwitch m_look;
     MainWindow m_window;
     RibbonHost m_ribbon;
     ApplicationHost m_application;

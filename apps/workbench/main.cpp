@@ -2,32 +2,55 @@
 #include "ExampleProject.h"
 #include "Headless.h"
 #include "LanguageSwitch.h"
+#include "LookSwitch.h"
 #include "TavrelStyle.h"
 #include "VKError.h"
 #include "Workbench.h"
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QGuiApplication>
+#include <QSettings>
 
 namespace {
 
 struct Options {
     QCommandLineParser parser;
     QCommandLineOption qualityCheck{"quality-check", "Start with the quality check open."};
+    QCommandLineOption example{"example", "Open the project with the example curves."};
     QCommandLineOption headless{"headless",
                                 "Grade the example curves, write pictures into <folder> and quit.", "folder"};
+    QCommandLineOption language{"language", "Speak en or fr.", "language"};
+    QCommandLineOption look{"look", "Be light or dark.", "look"};
 
     void read(const QCoreApplication& application) {
         parser.setApplicationDescription("Imports and grades pyrolysis curves.");
         parser.addHelpOption();
         parser.addVersionOption();
-        parser.addOption(qualityCheck);
-        parser.addOption(headless);
+        parser.addOptions({qualityCheck, example, headless, language, look});
         parser.addPositionalArgument("project", "The project to open; without one, that of the last time.",
                                      "[project]");
         parser.process(application);
     }
 };
+
+/// What was asked for, else what was chosen the last time.
+void dress(Workbench& workbench, const Options& options) {
+    using Language = LanguageSwitch::Language;
+    const QString language = options.parser.value(options.language);
+    if (!language.isEmpty()) {
+        workbench.language().choose(language == QLatin1String("fr") ? Language::French : Language::English);
+    } else {
+        workbench.language().choose(LanguageSwitch::remembered());
+    }
+    const QString look = options.parser.value(options.look);
+    if (!look.isEmpty()) {
+        workbench.look().choose(look == QLatin1String("dark") ? LookSwitch::Scheme::Dark
+                                                              : LookSwitch::Scheme::Light);
+    } else {
+        workbench.look().choose(LookSwitch::remembered());
+    }
+}
 
 /// In a project of its own, so that the user's stays as it is.
 int runHeadless(Workbench& workbench, const QString& folder) {
@@ -43,25 +66,11 @@ int runHeadless(Workbench& workbench, const QString& folder) {
     return Headless::run(workbench, folder);
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    TavrelStyle::prepareApplication();
-    Application application(argc, argv);
-    QCoreApplication::setOrganizationName("vorn");
-    QCoreApplication::setApplicationName("workbench");
-    QCoreApplication::setApplicationVersion(VORN_VERSION);
-    QApplication::setStyle(new TavrelStyle);
-    Options options;
-    options.read(application);
-
-    Workbench workbench;
-    if (options.parser.isSet(options.headless)) {
-        return runHeadless(workbench, options.parser.value(options.headless));
-    }
-    workbench.language().choose(LanguageSwitch::remembered());
+int runWindow(Workbench& workbench, const Options& options) {
     const QStringList projects = options.parser.positionalArguments();
-    if (projects.isEmpty()) {
+    if (options.parser.isSet(options.example)) {
+        workbench.projectCommands().openExample();
+    } else if (projects.isEmpty()) {
         workbench.projectCommands().openAtStart();
     } else {
         workbench.projectCommands().openProject(projects.first());
@@ -71,4 +80,29 @@ int main(int argc, char** argv) {
     }
     workbench.window().show();
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    TavrelStyle::prepareApplication();
+    Application application(argc, argv);
+    QCoreApplication::setOrganizationName("vorn");
+    QCoreApplication::setApplicationName("workbench");
+    QCoreApplication::setApplicationVersion(VORN_VERSION);
+    QApplication::setStyle(new TavrelStyle);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
+        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10)); // no desktop chooses one there
+    }
+    Options options;
+    options.read(application);
+
+    const QString folder = options.parser.value(options.headless);
+    if (!folder.isEmpty()) {
+        // What the user chose for himself is neither read nor changed.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QDir(folder).filePath("settings"));
+    }
+    Workbench workbench;
+    dress(workbench, options);
+    return folder.isEmpty() ? runWindow(workbench, options) : runHeadless(workbench, folder);
 }

@@ -20,9 +20,11 @@ void ModuleEditorAbstract::unregisterObserver() {
 }
 
 VKRibbonModuleBar& ModuleEditorAbstract::bar() {
-    if (auto* own = dynamic_cast<VKRibbonModuleBar*>(this))
-        return *own;
-    throw VKError(
-        VKRibbonModuleBar::tr("A module's editor has no ribbon bar: derive it from VKRibbonModuleBar.",
-                              "L'éditeur d'un module n'a pas de barre : dérivez-le de VKRibbonModuleBar."));
+    auto* const own = dynamic_cast<VKRibbonModuleBar*>(this);
+    if (own == nullptr) {
+        throw VKError(VKRibbonModuleBar::tr(
+            "A module's editor has no ribbon bar: derive it from VKRibbonModuleBar.",
+            "L'éditeur d'un module n'a pas de barre : dérivez-le de VKRibbonModuleBar."));
+    }
+    return *own;
 }

@@ -101,7 +101,9 @@ void VKRibbonGroupExpandable::openPopup() {
 void VKRibbonGroupExpandable::closePopup() {
     if (m_popup != nullptr) {
         m_popup->giveBack();
-        delete m_popup;
+        RibbonPopup* const popup = m_popup;
+        m_popup.clear();
+        delete popup;
         if (m_content != nullptr)
             layout()->addWidget(m_content, 1);
     }

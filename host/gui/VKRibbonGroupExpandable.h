@@ -27,7 +27,7 @@ public:
     // Takes the widget over and shows it; an earlier content is deleted.
     void setContent(QWidget* content);
 
-    bool isOpen() const { return m_popup && m_popup->isVisible(); }
+    bool isOpen() const { return m_popup != nullptr && m_popup->isVisible(); }
     void openPopup();
     void closePopup();
 

@@ -10,9 +10,18 @@
 #include "Transaction.h"
 #include "VKError.h"
 
+#include <QHash>
+
 #include <utility>
 
 namespace TechDB {
+
+namespace {
+
+/// From here on, reading all analyses is quicker than asking for each.
+constexpr int manyKeys = 32;
+
+} // namespace
 
 std::unique_ptr<TDatabase> TDatabase::create(const QString& path) {
     return std::unique_ptr<TDatabase>(new TDatabase(ProjectFile::create(path, ProjectSchema::current())));
@@ -49,6 +58,26 @@ const VKObject2Analysis* TDatabase::getAnalysis(const QString& name) const {
 const VKObject2Analysis* TDatabase::analysisByKey(qint64 key) const {
     const std::optional<AnalysisInfo> info = AnalysisStore(*m_connection).byKey(key);
     return info ? m_objects->analysis(*info) : nullptr;
+}
+
+QVector<const VKObject2Analysis*> TDatabase::analysesByKeys(const QVector<qint64>& keys) const {
+    QVector<const VKObject2Analysis*> found;
+    found.reserve(keys.size());
+    if (keys.size() < manyKeys) {
+        for (const qint64 key : keys) {
+            found.append(analysisByKey(key));
+        }
+        return found;
+    }
+    QHash<qint64, const VKObject2Analysis*> all;
+    const QVector<AnalysisInfo> stored = analyses();
+    for (const AnalysisInfo& info : stored) {
+        all.insert(info.key, m_objects->analysis(info));
+    }
+    for (const qint64 key : keys) {
+        found.append(all.value(key));
+    }
+    return found;
 }
 
 const VKObject2Analysis* TDatabase::addAnalysis(const QString& name, const QString& analysisType,

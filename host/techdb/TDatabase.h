@@ -48,6 +48,8 @@ public:
     /// Null if there is none.
     const VKObject2Analysis* getAnalysis(const QString& name) const;
     const VKObject2Analysis* analysisByKey(qint64 key) const;
+    /// In the order of the keys, null where there is none. For many keys in one look at the file.
+    QVector<const VKObject2Analysis*> analysesByKeys(const QVector<qint64>& keys) const;
     /// Refuses a curve that no module could work with (`TAnalysisData::whyUnusable`) and a name that is
     /// taken. The type is what the analysis was measured for.
     const VKObject2Analysis* addAnalysis(const QString& name, const QString& analysisType,

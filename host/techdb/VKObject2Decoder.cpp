@@ -10,6 +10,7 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -17,22 +18,34 @@ TechDB::TDatabase* databaseOf(const TechDB::ObjectReference& reference) {
     return TechDB::DatabaseRegistry::find(reference.project.toString(QUuid::WithoutBraces));
 }
 
-const VKObject2* found(const TechDB::ObjectReference& reference) {
-    const TechDB::TDatabase* const database = databaseOf(reference);
-    if (database == nullptr) {
-        return nullptr;
+bool isAnalysis(const TechDB::ObjectReference& reference) {
+    return reference.type == static_cast<qint32>(VKObjectType::Analysis) ||
+           reference.type == static_cast<qint32>(VKObjectType::Signal);
+}
+
+/// The objects of one database, null for one that isn't there.
+QVector<const VKObject2*> found(TechDB::TDatabase& database,
+                                const QVector<TechDB::ObjectReference>& references) {
+    QVector<qint64> keys;
+    for (const TechDB::ObjectReference& reference : references) {
+        keys.append(isAnalysis(reference) ? reference.key : 0);
     }
-    switch (static_cast<VKObjectType>(reference.type)) {
-    case VKObjectType::Analysis:
-        return database->analysisByKey(reference.key);
-    case VKObjectType::Signal: {
-        const VKObject2Analysis* const analysis = database->analysisByKey(reference.key);
-        return analysis != nullptr ? analysis->TIC() : nullptr;
+    const QVector<const VKObject2Analysis*> analyses = database.analysesByKeys(keys);
+    QVector<const VKObject2*> objects;
+    for (int i = 0; i < references.size(); ++i) {
+        switch (static_cast<VKObjectType>(references[i].type)) {
+        case VKObjectType::Analysis:
+            objects.append(analyses[i]);
+            break;
+        case VKObjectType::Signal:
+            objects.append(analyses[i] == nullptr ? nullptr : analyses[i]->TIC());
+            break;
+        case VKObjectType::Well:
+            objects.append(database.wellByKey(references[i].key));
+            break;
+        }
     }
-    case VKObjectType::Well:
-        return database->wellByKey(reference.key);
-    }
-    return nullptr;
+    return objects;
 }
 
 QVector<TechDB::ObjectReference> referencesIn(const QMimeData* data) {
@@ -70,10 +83,19 @@ bool VKObject2Decoder::canDecode(const QMimeData* data) {
 QList<const VKObject2*> VKObject2Decoder::decodeObject(const QMimeData* data) {
     QList<const VKObject2*> objects;
     try {
-        for (const TechDB::ObjectReference& reference : referencesIn(data)) {
-            if (const VKObject2* const object = found(reference)) {
-                objects.append(object);
+        const QVector<TechDB::ObjectReference> references = referencesIn(data);
+        for (int first = 0; first < references.size();) {
+            TechDB::TDatabase* const database = databaseOf(references[first]);
+            int end = first + 1;
+            while (end < references.size() && references[end].project == references[first].project) {
+                ++end;
             }
+            if (database != nullptr) {
+                const auto run = found(*database, references.mid(first, end - first));
+                std::copy_if(run.begin(), run.end(), std::back_inserter(objects),
+                             [](const VKObject2* object) { return object != nullptr; });
+            }
+            first = end;
         }
     } catch (const VKError& error) {
         VKError::dispatchError(error);

@@ -2,25 +2,36 @@
 
 #include "TData.h"
 #include <QRectF>
+#include <algorithm>
+#include <cmath>
+#include <limits>
 #include <optional>
 
 namespace TechPlot {
 
 /// The rectangle around the points that can be drawn, of no size for a single one; nothing without any.
 inline std::optional<QRectF> boundsOf(const TData* data) {
-    std::optional<QRectF> bounds;
+    constexpr float none = std::numeric_limits<float>::infinity();
+    float left = none;
+    float right = -none;
+    float low = none;
+    float high = -none;
     for (int i = 0; data != nullptr && i < data->count(); ++i) {
-        if (!data->isDrawable(i))
+        const float x = data->X()[i];
+        const float y = data->Y()[i];
+        if (!std::isfinite(x) || !std::isfinite(y))
             continue;
-        const QPointF point(static_cast<double>(data->X()[i]), static_cast<double>(data->Y()[i]));
-        if (!bounds)
-            bounds = QRectF(point, point);
-        bounds->setLeft(qMin(bounds->left(), point.x()));
-        bounds->setRight(qMax(bounds->right(), point.x()));
-        bounds->setTop(qMin(bounds->top(), point.y()));
-        bounds->setBottom(qMax(bounds->bottom(), point.y()));
+        left = std::min(left, x);
+        right = std::max(right, x);
+        low = std::min(low, y);
+        high = std::max(high, y);
     }
-    return bounds;
+    if (left > right)
+        return {};
+    const auto point = [](float x, float y) {
+        return QPointF(static_cast<double>(x), static_cast<double>(y));
+    };
+    return QRectF(point(left, low), point(right, high));
 }
 
 } // namespace TechPlot

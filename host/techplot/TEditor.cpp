@@ -4,7 +4,7 @@
 
 namespace TechPlot {
 
-TEditor::TEditor(QWidget* parent) : QWidget(parent), m_looseParts(new QObject(this)) {
+TEditor::TEditor(QWidget* parent) : QWidget(parent) {
     TEditorRegistry::returnMe().open(this);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TLooseParts.h"
 #include <QWidget>
 
 namespace TechPlot {
@@ -20,11 +21,11 @@ public:
     /// is called a second time does nothing.
     void release();
 
-    /// The parent of the plotters that no viewer holds.
-    QObject* looseParts() const { return m_looseParts; }
+    /// The owner of the plotters that no viewer holds.
+    TLooseParts& looseParts() { return m_looseParts; }
 
 private:
-    QObject* m_looseParts;
+    TLooseParts m_looseParts;
 };
 
 } // namespace TechPlot

@@ -1,7 +1,6 @@
 #include "TEditorRegistry.h"
 
 #include "TEditor.h"
-#include "TNode.h"
 
 namespace TechPlot {
 
@@ -12,26 +11,29 @@ TEditorRegistry& TEditorRegistry::returnMe() {
 
 void TEditorRegistry::open(TEditor* editor) {
     m_open.append(editor);
+    readSettingsAgain();
 }
 
 void TEditorRegistry::close(TEditor* editor) {
     m_open.removeAll(editor);
 }
 
-QObject* TEditorRegistry::looseParts() const {
-    return m_open.isEmpty() ? nullptr : m_open.last()->looseParts();
+TPlotSettings TEditorRegistry::settings() const {
+    return m_open.isEmpty() ? TPlotSettings::read() : m_settings;
+}
+
+void TEditorRegistry::readSettingsAgain() {
+    m_settings = TPlotSettings::read();
+}
+
+TLooseParts* TEditorRegistry::looseParts() const {
+    return m_open.isEmpty() ? nullptr : &m_open.last()->looseParts();
 }
 
 void TEditorRegistry::adopt(TEditor* editor, quint64 serial) {
-    for (const TEditor* other : qAsConst(m_open)) {
-        if (other == editor)
-            continue;
-        const QObjectList parts = other->looseParts()->children();
-        for (QObject* part : parts) {
-            const auto* node = static_cast<TNode*>(part);
-            if (node->serial() > serial)
-                part->setParent(editor->looseParts());
-        }
+    for (TEditor* other : qAsConst(m_open)) {
+        if (other != editor)
+            editor->looseParts().adopt(other->looseParts(), serial);
     }
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QObject>
+#include "TPlotSettings.h"
 #include <QVector>
 
 namespace TechPlot {
 
 class TEditor;
+class TLooseParts;
 
 /// Knows the open editors, so that a plotter in no viewer has an owner: the newest of them. Interface
 /// thread only, as everything that is drawn.
@@ -16,8 +17,8 @@ public:
     void open(TEditor* editor);
     void close(TEditor* editor);
 
-    /// The parent of what no viewer holds; null when no editor is open.
-    QObject* looseParts() const;
+    /// The owner of what no viewer holds; null when no editor is open.
+    TLooseParts* looseParts() const;
 
     /// Gives `editor` the loose plotters that were made after `serial`, whichever editor has them now:
     /// they were made for a viewer that has just entered it.
@@ -25,11 +26,16 @@ public:
 
     quint64 nextSerial() { return ++m_lastSerial; }
 
+    /// The user's settings as they were when the newest editor was opened, or when they were read again.
+    TPlotSettings settings() const;
+    void readSettingsAgain();
+
 private:
     TEditorRegistry() = default;
 
     QVector<TEditor*> m_open;
     quint64 m_lastSerial = 0;
+    TPlotSettings m_settings;
 };
 
 } // namespace TechPlot

@@ -1,5 +1,6 @@
 #include "TMatrixBar.h"
 
+#include "TEditorRegistry.h"
 #include "TLineIcon.h"
 #include "TavrelColors.h"
 #include <QAction>
@@ -58,7 +59,10 @@ QAction* TMatrixBar::addSwitch(const QString& icon, const QString& key, bool sta
     QAction* action = addAction(TLineIcon::icon(icon), {});
     action->setCheckable(true);
     action->setChecked(QSettings().value(key, standard).toBool());
-    connect(action, &QAction::toggled, this, [key](bool on) { QSettings().setValue(key, on); });
+    connect(action, &QAction::toggled, this, [key](bool on) {
+        QSettings().setValue(key, on);
+        TEditorRegistry::returnMe().readSettingsAgain();
+    });
     return action;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TLooseParts.h"
 #include "TStylePlotter.h"
 #include <QObject>
 #include <QRectF>
@@ -52,11 +53,17 @@ public:
     quint64 serial() const { return m_serial; }
 
 private:
+    friend class TLooseParts;
     friend class VKViewer2D;
+
+    void becomeLoose();
+    void leaveLooseParts();
 
     QString m_name;
     TStylePlotter m_style;
     VKViewer2D* m_viewer = nullptr;
+    TLooseParts* m_loose = nullptr;
+    TLooseParts::Place m_place;
     quint64 m_serial;
     bool m_deletable = true;
 };

@@ -1,8 +1,8 @@
 #include "VKPlotterSignal.h"
 
 #include "TDataBounds.h"
+#include "TEditorRegistry.h"
 #include "TSignalItem.h"
-#include <QSettings>
 #include <cmath>
 #include <limits>
 
@@ -18,16 +18,32 @@ void VKPlotterSignal::setRawData(TData* data) {
 }
 
 void VKPlotterSignal::settingRead() {
-    const double standard = getStyle()->lineThickness();
-    getStyle()->setLineThickness(
-        QSettings().value(QStringLiteral("techplot/lineThickness"), standard).toDouble());
+    if (const auto thickness = TEditorRegistry::returnMe().settings().lineThickness)
+        getStyle()->setLineThickness(*thickness);
 }
 
 void VKPlotterSignal::initMinMaxXYZC() {
+    m_measured = false;
+    refreshDraw();
+}
+
+void VKPlotterSignal::measure() const {
+    if (m_measured)
+        return;
     const auto found = boundsOf(m_data.get());
     m_hasPoints = found.has_value();
     m_bounds = found.value_or(QRectF());
-    refreshDraw();
+    m_measured = true;
+}
+
+QRectF VKPlotterSignal::bounds() const {
+    measure();
+    return m_bounds;
+}
+
+bool VKPlotterSignal::hasPoints() const {
+    measure();
+    return m_hasPoints;
 }
 
 std::unique_ptr<QwtPlotItem> VKPlotterSignal::makeItem() const {

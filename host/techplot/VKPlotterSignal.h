@@ -33,22 +33,25 @@ public:
     /// Takes the line thickness from the user's settings (key "techplot/lineThickness").
     void settingRead();
 
-    /// Measures the data anew. `bounds` tells what was found the last time, so this is due after each
-    /// change of the values; `setRawData` does it itself.
+    /// Has the data measured anew when the bounds are next asked for: a curve that nobody looks at isn't.
+    /// Due after each change of the values; `setRawData` does it itself.
     void initMinMaxXYZC();
 
-    QRectF bounds() const override { return m_bounds; }
-    bool hasPoints() const override { return m_hasPoints; }
+    QRectF bounds() const override;
+    bool hasPoints() const override;
     std::unique_ptr<QwtPlotItem> makeItem() const override;
 
     /// The sample nearest in time that can be drawn; -1 when there is none.
     int nearestSample(double time) const;
 
 private:
+    void measure() const;
+
     std::unique_ptr<TData> m_data;
-    QRectF m_bounds;
     TypeSignal m_type = Line;
-    bool m_hasPoints = false;
+    mutable QRectF m_bounds;
+    mutable bool m_hasPoints = false;
+    mutable bool m_measured = false;
 };
 
 } // namespace TechPlot

@@ -8,7 +8,6 @@
 #include "VKPlotterSignal.h"
 #include <QEvent>
 #include <QLocale>
-#include <QSettings>
 #include <qwt_plot_item.h>
 
 namespace TechPlot {
@@ -21,7 +20,7 @@ VKViewer2D::~VKViewer2D() {
 }
 
 void VKViewer2D::settingRead() {
-    setGridVisible(QSettings().value(QStringLiteral("techplot/grid"), true).toBool());
+    setGridVisible(TEditorRegistry::returnMe().settings().gridVisible);
 }
 
 void VKViewer2D::setGridVisible(bool visible) {
@@ -42,6 +41,7 @@ void VKViewer2D::insertPlotter(TNode* plotter) {
         return;
     if (plotter->viewer() != nullptr)
         plotter->viewer()->forget(plotter);
+    plotter->leaveLooseParts();
     plotter->setParent(this);
     plotter->m_viewer = this;
     m_plotters.append(plotter);
@@ -54,7 +54,8 @@ void VKViewer2D::extractPlotter(TNode* plotter, bool dispose) {
     if (plotter == nullptr || plotter->viewer() != this)
         return;
     forget(plotter);
-    plotter->setParent(TEditorRegistry::returnMe().looseParts());
+    plotter->setParent(nullptr);
+    plotter->becomeLoose();
     if (dispose && plotter->isDeletable())
         plotter->deleteLater();
 }
@@ -68,8 +69,14 @@ void VKViewer2D::forget(TNode* plotter) {
 
 void VKViewer2D::plotterChanged() {
     if (m_refreshEnabled)
-        fit();
+        m_fitted = false;
     schedule();
+}
+
+const TViewRange& VKViewer2D::range() const {
+    if (!m_fitted)
+        fit();
+    return m_range;
 }
 
 std::optional<QPair<double, double>> VKViewer2D::timeSpan() const {
@@ -89,7 +96,8 @@ void VKViewer2D::setCommonSpan(const std::optional<QPair<double, double>>& span)
     plotterChanged();
 }
 
-void VKViewer2D::fit() {
+void VKViewer2D::fit() const {
+    m_fitted = true;
     auto span = timeSpan();
     if (!span)
         return;
@@ -112,7 +120,7 @@ void VKViewer2D::fit() {
 void VKViewer2D::schedule() {
     m_stale = true;
     if (m_plot != nullptr && m_refreshEnabled)
-        m_plot->setRange(m_range.shown());
+        m_plot->setRange(range().shown());
     if (m_scheduled || !m_refreshEnabled || m_plot == nullptr || !isVisible())
         return;
     m_scheduled = true;
@@ -128,7 +136,7 @@ void VKViewer2D::redraw() {
 }
 
 void VKViewer2D::adopt(const TViewRange& next) {
-    const QRectF before = m_range.shown();
+    const QRectF before = range().shown();
     const QRectF after = next.shown();
     if (after == before)
         return;
@@ -140,42 +148,46 @@ void VKViewer2D::adopt(const TViewRange& next) {
 }
 
 void VKViewer2D::showPart(const QRectF& part) {
-    TViewRange next = m_range;
+    TViewRange next = range();
     next.show(part);
     adopt(next);
 }
 
 void VKViewer2D::zoomTime(double factor, double centre) {
-    TViewRange next = m_range;
+    TViewRange next = range();
     next.zoomTime(factor, centre);
     adopt(next);
 }
 
 void VKViewer2D::zoomSignal(double factor, double centre) {
-    TViewRange next = m_range;
+    TViewRange next = range();
     next.zoomSignal(factor, centre);
     adopt(next);
 }
 
 void VKViewer2D::move(double right, double up) {
-    TViewRange next = m_range;
+    TViewRange next = range();
     next.move(right, up);
     adopt(next);
 }
 
 void VKViewer2D::resetRange() {
-    TViewRange next = m_range;
+    TViewRange next = range();
     next.reset();
     adopt(next);
     emit timeReset();
 }
 
 void VKViewer2D::followTime(double from, double to) {
+    if (!m_fitted)
+        fit();
     m_range.showTime(from, to);
     schedule();
 }
 
 void VKViewer2D::followReset() {
+    if (!m_fitted)
+        fit();
     m_range.reset();
     schedule();
 }
@@ -229,7 +241,7 @@ QWidget* VKViewer2D::makeBody() {
         m_items.insert(plotter, m_plot->add(plotter->makeItem()));
     m_cursor = new TCursorOverlay(m_plot->canvas());
     new TPlotNavigator(*this, *m_plot, *m_cursor);
-    m_plot->setRange(m_range.shown());
+    m_plot->setRange(range().shown());
     return m_plot;
 }
 
@@ -241,7 +253,7 @@ std::unique_ptr<TPlotWidget> VKViewer2D::makePicture(const QPalette& palette) co
     picture->setGridVisible(m_grid);
     for (const TNode* plotter : m_plotters)
         picture->add(plotter->makeItem());
-    picture->setRange(m_range.shown());
+    picture->setRange(range().shown());
     picture->updateAxes();
     return picture;
 }

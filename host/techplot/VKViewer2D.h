@@ -45,7 +45,7 @@ public:
 
     /// The parts of the axes that are shown, and what the user's commands do to them. Each command that
     /// changes the shown time is told by `timeShown`.
-    const TViewRange& range() const { return m_range; }
+    const TViewRange& range() const;
     void showPart(const QRectF& part);
     void zoomTime(double factor, double centre);
     void zoomSignal(double factor, double centre);
@@ -100,12 +100,14 @@ private slots:
 private:
     void adopt(const TViewRange& next);
     VKPlotterSignal* firstSignal() const;
-    void fit();
+    void fit() const;
     void schedule();
 
     QVector<TNode*> m_plotters;
     QHash<TNode*, QwtPlotItem*> m_items;
-    TViewRange m_range;
+    // Fitted to the plotters when it is next asked for, so that a viewer nobody looks at isn't.
+    mutable TViewRange m_range;
+    mutable bool m_fitted = true;
     std::optional<QPair<double, double>> m_commonSpan;
     TPlotWidget* m_plot = nullptr;
     TCursorOverlay* m_cursor = nullptr;

@@ -9,6 +9,9 @@
 
 namespace algo::sr_qaqc {
 
+template <class Scalar, class Values>
+class SourceRockQAQCMgr;
+
 /// What the manager keeps for one analysis, updated in place by every later run: each holder of the
 /// shared pointer sees the new peaks.
 template <class Scalar, class Values>
@@ -29,11 +32,14 @@ public:
     RawPointer signal() const { return m_signal; }
     SmoothedPointer smoothed() const { return m_smoothed; }
 
-    void setName(const std::string& name) { m_name = name; }
     void setChromatogram(ChromatogramPointer chromatogram) { m_chromatogram = std::move(chromatogram); }
     void setSmoothed(SmoothedPointer smoothed) { m_smoothed = std::move(smoothed); }
 
 private:
+    friend class SourceRockQAQCMgr<Scalar, Values>; // which finds records by their names
+
+    void setName(const std::string& name) { m_name = name; }
+
     std::string m_name;
     ChromatogramPointer m_chromatogram;
     RawPointer m_signal;

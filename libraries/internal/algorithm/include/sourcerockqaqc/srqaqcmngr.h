@@ -12,6 +12,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -40,7 +41,12 @@ public:
     std::shared_ptr<Record> addAnalysis(SignalPointer signal, const std::string& name) {
         auto record = analyse(signal);
         record->setName(name);
-        m_analyses[std::move(signal)] = record;
+        const auto place = m_analyses.insert_or_assign(std::move(signal), record);
+        if (place.second) {
+            enterName(name, place.first);
+        } else {
+            enterAllNames();
+        }
         return record;
     }
 
@@ -79,12 +85,11 @@ public:
     /// The quality code of the first analysis of that name. Raises for an unknown one.
     // NOLINTNEXTLINE(performance-unnecessary-value-param) the signature that callers know
     int getQuality(const std::string name) const {
-        for (const auto& entry : m_analyses) {
-            if (entry.second->name() == name) {
-                return qualityCode(*entry.second->chromatogram());
-            }
+        const auto found = m_firstOfName.find(name);
+        if (found == m_firstOfName.end()) {
+            ALGO_RAISE("can not find the analysis with name " + name);
         }
-        ALGO_RAISE("can not find the analysis with name " + name);
+        return qualityCode(*found->second->second->chromatogram());
     }
 
     /// Writes all analyses for machine learning, to a fixed file and with no word about it: on Windows
@@ -112,8 +117,28 @@ public:
     }
 
 private:
+    using Analyses = std::map<SignalPointer, std::shared_ptr<Record>>;
+    using Place = typename Analyses::const_iterator;
+
+    void enterName(const std::string& name, Place place) {
+        const auto entered = m_firstOfName.emplace(name, place);
+        if (!entered.second && m_analyses.key_comp()(place->first, entered.first->second->first)) {
+            entered.first->second = place;
+        }
+    }
+
+    /// After a record was renamed.
+    void enterAllNames() {
+        m_firstOfName.clear();
+        for (auto place = m_analyses.cbegin(); place != m_analyses.cend(); ++place) {
+            enterName(place->second->name(), place);
+        }
+    }
+
     std::shared_ptr<const Settings> m_settings;
-    std::map<SignalPointer, std::shared_ptr<Record>> m_analyses;
+    Analyses m_analyses;
+    /// A list of a thousand names asks for each of them at every step of a slider.
+    std::unordered_map<std::string, Place> m_firstOfName;
 };
 
 } // namespace algo::sr_qaqc

@@ -1,0 +1,55 @@
+#!/usr/bin/env python3
+"""Measures what the workbench promises beside the engine's own update, in one run.
+
+    benchmarks/desktop_ratios.py [--build build/bench]
+
+Needs the preset `bench` built; no display. Each line gives a figure and its limit; exit 1 when one is
+missed. Processor times, medians of several turns, on the offscreen platform.
+"""
+
+import argparse
+import json
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+TURNS = 5
+
+
+def figures(program):
+    output = subprocess.run(
+        [program, "--benchmark_repetitions=%d" % TURNS, "--benchmark_report_aggregates_only=true",
+         "--benchmark_format=json"],
+        check=True, capture_output=True, text=True).stdout
+    return {run["run_name"].split("/")[0]: run for run in json.loads(output)["benchmarks"]
+            if run["aggregate_name"] == "median"}
+
+
+def main():
+    parser = argparse.ArgumentParser(description="measure what the workbench promises")
+    parser.add_argument("--build", type=Path, default=ROOT / "build/bench", help="build folder of the preset bench")
+    options = parser.parse_args()
+    runs = figures(options.build / "benchmarks/desktop_benchmark")
+    times = {name: run["cpu_time"] for name, run in runs.items()}
+    for name, value in times.items():
+        print("%-20s %10.1f ms" % (name, value))
+    missed = 0
+
+    def at_most(text, value, limit):
+        nonlocal missed
+        missed += value > limit
+        print("%-58s %8.2f  (at most %g) %s" % (text, value, limit, "MISSED" if value > limit else ""))
+
+    update = times["engine_update"]
+    at_most("slider step, 1000 analyses, 20 viewers, over update", times["slider_step"] / update, 1.3)
+    at_most("drop of 1000 analyses over update", times["drop_1000"] / update, 4)
+    at_most("opening a project of 1000 analyses, s", times["open_project"] / 1000, 0.5)
+    at_most("200 viewers built and shown, s", times["show_200_viewers"] / 1000, 1)
+    at_most("memory of a stored analysis over its curve of 10,112 bytes",
+            runs["memory_per_analysis"]["bytes_each"] / 10112, 0.1)
+    return 1 if missed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

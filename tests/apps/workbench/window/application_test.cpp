@@ -1,0 +1,39 @@
+#include "Application.h"
+#include "MessageCollector.h"
+
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QTest>
+
+#include <stdexcept>
+
+TEST(LastNet, what_leaves_a_slot_is_logged_and_the_window_lives_on) {
+    MessageCollector log;
+    MessageLoggerInterface::setDefaultLogger(&log);
+    QPushButton button;
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, [&clicks] {
+        if (++clicks == 1) {
+            throw std::runtime_error("the <b>curve</b> has no end");
+        }
+        if (clicks == 2) {
+            throw 3;
+        }
+    });
+    button.show();
+    for (int i = 0; i < 3; ++i) {
+        QTest::mouseClick(&button, Qt::LeftButton);
+    }
+    EXPECT_EQ(clicks, 3);
+    const QStringList errors = log.messages(MessageLevel::Error);
+    ASSERT_EQ(errors.size(), 2);
+    EXPECT_TRUE(errors[0].contains("the &lt;b&gt;curve&lt;/b&gt; has no end")) << errors[0].toStdString();
+}
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    const Application application(argc, argv);
+    return RUN_ALL_TESTS();
+}

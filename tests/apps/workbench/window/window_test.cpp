@@ -1,0 +1,181 @@
+#include "ExampleProject.h"
+#include "HelpPage.h"
+#include "ProjectTree.h"
+#include "TDatabase.h"
+#include "TableView.h"
+#include "VKDataModel.h"
+#include "VKError.h"
+#include "VKListViewSignal.h"
+#include "VKObject2Analysis.h"
+#include "VKRibbon.h"
+#include "VKRibbonBar.h"
+#include "Workbench.h"
+#include "Workspace.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QToolButton>
+#include <QTreeView>
+
+#include <memory>
+
+class Window : public testing::Test {
+protected:
+    Window() {
+        QSettings().clear();
+        start();
+    }
+
+    void start() {
+        workbench.reset();
+        workbench = std::make_unique<Workbench>();
+        workbench->window().show();
+    }
+    void settle() const {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+    QString path(const QString& name) const { return folder.filePath(name); }
+    QStringList errors() const {
+        QStringList texts;
+        const MessageLogModel& log = workbench->log();
+        for (int row = 0; row < log.rowCount(); ++row) {
+            const QModelIndex index = log.index(row, MessageLogModel::TextColumn);
+            if (index.data(MessageLogModel::LevelRole).toInt() == static_cast<int>(MessageLevel::Error)) {
+                texts.append(index.data().toString());
+            }
+        }
+        return texts;
+    }
+    Workspace& workspace() { return workbench->window().workspace(); }
+    ProjectTree& tree() { return workbench->window().tree(); }
+
+    const QTemporaryDir folder;
+    std::unique_ptr<Workbench> workbench;
+};
+
+TEST_F(Window, remembers_its_size_its_language_and_the_project) {
+    workbench->projects().create(path("lab.vornproj"));
+    workbench->language().choose(LanguageSwitch::Language::French);
+    workbench->window().resize(903, 607);
+    workbench->window().close();
+    start();
+    workbench->projectCommands().openAtStart();
+    EXPECT_EQ(workbench->window().size(), QSize(903, 607));
+    EXPECT_EQ(LanguageSwitch::remembered(), LanguageSwitch::Language::French);
+    EXPECT_TRUE(workbench->window().windowTitle().startsWith("lab "));
+    EXPECT_EQ(ProjectMgr::recentProjects(), QStringList(path("lab.vornproj")));
+}
+
+TEST_F(Window, what_cannot_be_opened_is_named_and_the_open_project_stays) {
+    workbench->projects().create(path("lab.vornproj"));
+    QFile other(path("other.vornproj"));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.write("no database at all");
+    other.close();
+    workbench->projectCommands().openProject(other.fileName());
+    ASSERT_EQ(errors().size(), 1);
+    EXPECT_TRUE(errors()[0].contains("other.vornproj"));
+    EXPECT_EQ(workbench->projects().projectDatabase()->path(), path("lab.vornproj"));
+}
+
+TEST_F(Window, a_new_project_takes_the_place_of_an_old_file_once_it_is_whole_and_never_of_the_open_one) {
+    workbench->projects().create(path("old.vornproj"), &ExampleProject::fill);
+    EXPECT_THROW(workbench->projects().create(path("old.vornproj")), VKError);
+    EXPECT_GE(workbench->projects().projectDatabase()->analyses().size(), 24);
+    workbench->projects().create(path("other.vornproj"));
+    const auto fails = [](TechDB::TDatabase&) { throw VKError("the disk is full"); };
+    EXPECT_THROW(workbench->projects().create(path("old.vornproj"), fails), VKError);
+    workbench->projects().open(path("old.vornproj"));
+    EXPECT_GE(workbench->projects().projectDatabase()->analyses().size(), 24) << "still the old one";
+    workbench->projects().open(path("other.vornproj"));
+    workbench->projects().create(path("old.vornproj"));
+    EXPECT_TRUE(workbench->projects().projectDatabase()->analyses().isEmpty());
+}
+
+TEST_F(Window, the_first_start_makes_the_example_project_and_the_next_finds_it) {
+    QFile::remove(
+        QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filePath("Example.vornproj"));
+    workbench->projectCommands().openAtStart();
+    ASSERT_NE(workbench->projects().projectDatabase(), nullptr);
+    const QStringList files = QDir(VORN_EXAMPLES).entryList({"*.S00", "*.s00"}, QDir::Files);
+    EXPECT_EQ(workbench->projects().projectDatabase()->analyses().size(), files.size());
+    const auto* const first = workbench->projects().projectDatabase()->getAnalysis("good-clean-01.S00");
+    workbench->projects().projectDatabase()->renameAnalysis(first->key(), "renamed");
+    QSettings().clear();
+    start();
+    workbench->projectCommands().openAtStart();
+    EXPECT_NE(workbench->projects().projectDatabase()->getAnalysis("renamed"), nullptr);
+    EXPECT_TRUE(errors().isEmpty());
+}
+
+TEST_F(Window, what_is_selected_in_the_tree_opens_as_a_table_and_goes_to_the_quality_check) {
+    workbench->projects().create(path("lab.vornproj"), &ExampleProject::fill);
+    tree().findChild<QLineEdit*>()->setText("double-clean");
+    tree().findChild<QTreeView*>()->selectAll();
+    tree().openAction()->trigger();
+    const auto* const table = dynamic_cast<const TableView*>(workspace().currentPage());
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->model()->rowCount(), 1264);
+    EXPECT_EQ(table->windowTitle(), "double-clean-01.S00");
+    tree().sendAction()->trigger();
+    ASSERT_TRUE(workbench->qualityCheck().isOpen());
+    ASSERT_EQ(workbench->qualityCheck().list()->topLevelItemCount(), 1);
+    EXPECT_EQ(workbench->qualityCheck().list()->topLevelItem(0)->background(0).color(), QColor("orange"));
+}
+
+TEST_F(Window, help_opens_the_guide_at_the_modules_page_and_follows_nothing_outside) {
+    ApplicationInterface::returnMe()->showHelp(124);
+    settle();
+    auto* const page = dynamic_cast<HelpPage*>(workspace().currentPage());
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(page->textCursor().block().text(), "The quality check");
+    EXPECT_FALSE(
+        page->loadResource(QTextDocument::ImageResource, QUrl("http://example.org/a.png")).isValid());
+    EXPECT_FALSE(page->loadResource(QTextDocument::ImageResource, QUrl("file:///etc/passwd")).isValid());
+    emit page->anchorClicked(QUrl("http://example.org"));
+    emit page->anchorClicked(QUrl("#curves"));
+    EXPECT_EQ(page->textCursor().block().text(), "Curves");
+}
+
+TEST_F(Window, every_button_of_the_start_tab_is_also_in_a_menu) {
+    QList<const QAction*> inMenus;
+    const QList<QMenu*> menus = workbench->window().findChildren<QMenu*>();
+    for (const QMenu* const menu : menus) {
+        inMenus.append(menu->menuAction());
+        for (const QAction* const action : menu->actions()) {
+            inMenus.append(action);
+        }
+    }
+    const VKRibbonBar* const bar = workbench->window().ribbon().startBar();
+    const QList<QToolButton*> buttons = bar->findChildren<QToolButton*>();
+    ASSERT_GE(buttons.size(), 7);
+    for (const QToolButton* const button : buttons) {
+        EXPECT_TRUE(inMenus.contains(button->defaultAction())) << button->text().toStdString();
+    }
+}
+
+TEST_F(Window, all_menus_speak_french_when_asked_and_english_again) {
+    const auto titles = [this] {
+        QStringList texts;
+        for (const QAction* const menu : workbench->window().menuBar()->actions()) {
+            texts.append(menu->text());
+        }
+        return texts;
+    };
+    const QStringList english = titles();
+    workbench->language().choose(LanguageSwitch::Language::French);
+    EXPECT_EQ(titles(), QStringList({"&Projet", "&Données", "Contrôle &qualité", "&Affichage", "A&ide"}));
+    workbench->language().choose(LanguageSwitch::Language::English);
+    EXPECT_EQ(titles(), english);
+}
