@@ -20,6 +20,7 @@ TURNS = 5
 def figures(program):
     output = subprocess.run(
         [program, "--benchmark_repetitions=%d" % TURNS, "--benchmark_report_aggregates_only=true",
+         "--benchmark_enable_random_interleaving=true",
          "--benchmark_format=json"],
         check=True, capture_output=True, text=True).stdout
     return {run["run_name"].split("/")[0]: run for run in json.loads(output)["benchmarks"]

@@ -24,6 +24,7 @@
 namespace {
 
 constexpr QSize pictureSize(1280, 800);
+constexpr int plotsInPicture = 6; // all of them would make it higher than viewers of pictures like
 
 void settle() {
     for (int pass = 0; pass < 3; ++pass) {
@@ -65,11 +66,14 @@ void writePicture(const QString& path, const QWidget& widget) {
     std::cout << "Written: " << path.toStdString() << '\n';
 }
 
-void writePlots(const QString& path, const QWidget* page) {
-    if (const auto* const matrix = dynamic_cast<const TechPlot::TEditorMatrix*>(page)) {
-        TechPlot::TPlotExport::write(matrix->plots(), path);
-        std::cout << "Written: " << path.toStdString() << '\n';
-    }
+void writePlots(const QString& path, const QVector<const TechPlot::VKViewer2D*>& plots) {
+    TechPlot::TPlotExport::write(plots, path);
+    std::cout << "Written: " << path.toStdString() << '\n';
+}
+
+QVector<const TechPlot::VKViewer2D*> plotsOn(const QWidget* page) {
+    const auto* const matrix = dynamic_cast<const TechPlot::TEditorMatrix*>(page);
+    return matrix == nullptr ? QVector<const TechPlot::VKViewer2D*>() : matrix->plots();
 }
 
 void runIn(Workbench& workbench, const QDir& folder) {
@@ -83,8 +87,9 @@ void runIn(Workbench& workbench, const QDir& folder) {
     workbench.qualityCheck().list()->selectAll();
     settle();
     writePicture(folder.filePath(QStringLiteral("window.png")), workbench.window());
-    writePlots(folder.filePath(QStringLiteral("plots.png")), workspace.currentPage());
-    writePlots(folder.filePath(QStringLiteral("plots.pdf")), workspace.currentPage());
+    const QVector<const TechPlot::VKViewer2D*> plots = plotsOn(workspace.currentPage());
+    writePlots(folder.filePath(QStringLiteral("plots.png")), plots.mid(0, plotsInPicture));
+    writePlots(folder.filePath(QStringLiteral("plots.pdf")), plots);
 }
 
 } // namespace

@@ -40,7 +40,8 @@ bool TrialGate::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     const QList<const VKObject2*> dropped = VKObject2Decoder::decodeObject(drop.mimeData());
-    const QList<const VKObject2*> good = gradable(dropped);
+    Curves curves; // the module reads them again while it takes the drop
+    const QList<const VKObject2*> good = gradable(dropped, curves);
     const QScopedValueRollback<bool> delivering(m_delivering, true);
     if (good.size() == dropped.size()) {
         QCoreApplication::sendEvent(watched, &drop);
@@ -51,7 +52,7 @@ bool TrialGate::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-QList<const VKObject2*> TrialGate::gradable(const QList<const VKObject2*>& objects) {
+QList<const VKObject2*> TrialGate::gradable(const QList<const VKObject2*>& objects, Curves& curves) {
     QList<const VKObject2*> good;
     for (const VKObject2* const object : objects) {
         const VKObject2Analysis* const signal = signalOf(object);
@@ -64,7 +65,8 @@ QList<const VKObject2*> TrialGate::gradable(const QList<const VKObject2*>& objec
                     .arg(object->displayName().toHtmlEscaped()));
             continue;
         }
-        const QString refusal = TrialGrade::refusal(*signal);
+        const QString refusal =
+            TrialGrade::refusal(*signal, curves.try_emplace(signal->db(), *signal->db()).first->second);
         if (refusal.isEmpty()) {
             good.append(object);
         } else {

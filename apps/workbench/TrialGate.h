@@ -1,7 +1,11 @@
 #pragma once
 
+#include "ReadAhead.h"
+
 #include <QList>
 #include <QObject>
+
+#include <map>
 
 class QDropEvent;
 class VKObject2;
@@ -25,7 +29,9 @@ signals:
     void delivered();
 
 private:
-    static QList<const VKObject2*> gradable(const QList<const VKObject2*>& objects);
+    using Curves = std::map<TechDB::TDatabase*, TechDB::ReadAhead>;
+
+    static QList<const VKObject2*> gradable(const QList<const VKObject2*>& objects, Curves& curves);
     static void deliver(QObject* list, const QList<const VKObject2*>& objects, QDropEvent& original);
 
     bool m_delivering = false;

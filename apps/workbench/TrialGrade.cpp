@@ -1,6 +1,6 @@
 #include "TrialGrade.h"
 
-#include "TDatabase.h"
+#include "ReadAhead.h"
 #include "VKError.h"
 #include "VKObject2Analysis.h"
 #include "sourcerockqaqc/grading.h"
@@ -23,14 +23,14 @@ QString lastLine(const char* text) {
 void gradeOnce(const TAnalysisData& curve) {
     const auto signal = algo::sr_qaqc::rawSignal<double, Values>(curve.x().data(), curve.y().data(),
                                                                  static_cast<int>(curve.x().size()));
-    algo::sr_qaqc::grade(signal, algo::sr_qaqc::SourceRockQAQCSettings<double, Values>());
+    algo::sr_qaqc::usefulPart<double, Values>(signal);
 }
 
 } // namespace
 
-QString TrialGrade::refusal(const VKObject2Analysis& analysis) {
+QString TrialGrade::refusal(const VKObject2Analysis& analysis, TechDB::ReadAhead& curves) {
     try {
-        gradeOnce(analysis.db()->curve(analysis.key()));
+        gradeOnce(curves.curve(analysis.key()));
     } catch (const VKError& error) {
         return error.text();
     } catch (const std::exception& error) {

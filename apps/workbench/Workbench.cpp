@@ -8,6 +8,7 @@
 #include "Workspace.h"
 
 #include <QFileInfo>
+#include <QLocale>
 
 Workbench::Workbench()
     : m_window(m_log), m_ribbon(m_window.ribbon()), m_application(m_window), m_launcher(m_window.workspace()),
@@ -20,6 +21,9 @@ Workbench::Workbench()
     connect(&m_language, &LanguageSwitch::languageChanged, &m_projectCommands, &ProjectCommands::translate);
     connect(&m_language, &LanguageSwitch::languageChanged, m_menu, &MainMenu::translate);
     connect(&m_language, &LanguageSwitch::languageChanged, this, &Workbench::showTitle);
+    // Number boxes write as their window does.
+    connect(&m_language, &LanguageSwitch::languageChanged, &m_window,
+            [this] { m_window.setLocale(QLocale()); });
     connect(m_menu, &MainMenu::helpRequested, this, &Workbench::showHelp);
     connect(&m_application, &ApplicationHost::helpRequested, this, &Workbench::showHelp);
     m_window.setCloseGuard([this] { return m_launcher.closeAll(); });

@@ -6,6 +6,7 @@
 #include "MessageLoggerInterface.h"
 #include "ObjectPool.h"
 #include "ProjectFile.h"
+#include "ReadAhead.h"
 #include "SqlConnection.h"
 #include "Transaction.h"
 #include "VKError.h"
@@ -123,7 +124,9 @@ bool TDatabase::analysisData(const VKObject2Analysis* analysis, TAnalysisData** 
     }
     TDatabase& database = *analysis->db();
     try {
-        database.m_lastCurve = std::make_unique<TAnalysisData>(database.curve(analysis->key()));
+        auto curve = database.m_readAhead == nullptr ? nullptr : database.m_readAhead->take(analysis->key());
+        database.m_lastCurve =
+            curve ? std::move(curve) : std::make_unique<TAnalysisData>(database.curve(analysis->key()));
     } catch (const VKError& error) {
         MessageLoggerInterface::Error(error.text());
         return false;

@@ -17,6 +17,7 @@ class VKObject2Well;
 namespace TechDB {
 
 class ObjectPool;
+class ReadAhead;
 class SqlConnection;
 
 /// An open project: analyses, each with its curve, and datasets, each with named samples. It is open as
@@ -90,6 +91,7 @@ protected:
     explicit TDatabase(std::unique_ptr<SqlConnection> connection);
 
 private:
+    friend class ReadAhead;
     friend class Transaction;
 
     struct UncommittedChange {
@@ -105,6 +107,7 @@ private:
     std::unique_ptr<SqlConnection> m_connection;
     std::unique_ptr<ObjectPool> m_objects;
     std::unique_ptr<TAnalysisData> m_lastCurve;
+    ReadAhead* m_readAhead = nullptr;
     QString m_projectId;
     QVector<UncommittedChange> m_changes;
 };

@@ -1,5 +1,8 @@
 #include "enginetest.h"
 
+#include "sourcerockqaqc/rawsignal.h"
+
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -62,6 +65,39 @@ TEST(Hostile, odd_levels_axes_and_settings_give_a_grade_or_a_stated_failure) {
         grades += outcome(signalOf(x, y), settings) == "grade" ? 1 : 0;
     }
     EXPECT_GT(grades, 400);
+}
+
+TEST(Hostile, a_stored_curve_whose_useful_part_stands_is_graded_wherever_the_sliders_stand) {
+    std::mt19937 generator(12);
+    const auto pick = [&](const Values& values) { return values[generator() % values.size()]; };
+    int refused = 0;
+    int graded = 0;
+    for (int run = 0; run < 3000; ++run) {
+        const auto n = 2 + generator() % (run % 20 == 0 ? 300 : (run % 4 == 0 ? 3 : 40));
+        const double step = pick({1, 1, 1, 0.01, -1, 1e-38, 1e30});
+        const double x0 = pick({0, 0, 0, 100, -100, 1e15, -3e38});
+        const double level = pick({0, 1, -1, 3e9, 1e38, -1e38, 1e-40});
+        std::vector<float> x;
+        std::vector<float> y;
+        for (unsigned i = 0; i < n; ++i) {
+            x.push_back(static_cast<float>(std::max(-3e38, std::min(3e38, x0 + i * step))));
+            y.push_back(static_cast<float>(level * (1 + 0.001 * static_cast<double>(generator() % 1000))));
+        }
+        const auto signal = algo::sr_qaqc::rawSignal<double, Values>(x.data(), y.data(), static_cast<int>(n));
+        bool stands = true;
+        try {
+            algo::sr_qaqc::usefulPart<double, Values>(signal);
+        } catch (const std::exception&) {
+            stands = false;
+        }
+        for (const double sensitivity : {0.2, 0.5, 0.99}) {
+            for (const double coelution : {0.2, 2.0}) {
+                EXPECT_EQ(outcome(signal, {sensitivity, coelution, 5.0}) == "grade", stands) << "run " << run;
+            }
+        }
+        ++(stands ? graded : refused);
+    }
+    EXPECT_GT(std::min(graded, refused), 100);
 }
 
 TEST(Hostile, level_curves_have_a_grade) {

@@ -10,16 +10,11 @@
 
 #if defined(__SANITIZE_ADDRESS__)
 #include <sanitizer/lsan_interface.h>
-
-// Fontconfig keeps its configuration to the end of the process. The name is the sanitizer's.
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libfontconfig.so\n";
-} // NOLINT
 #endif
 
 namespace {
 
-// Before the application object goes: the offscreen platform leaves its screen behind, which is not ours.
+// Before the application object goes: the platform then leaves behind what belongs to its screen and windows.
 void checkForLeaks() {
 #if defined(__SANITIZE_ADDRESS__)
     __lsan_do_leak_check();

@@ -10,6 +10,7 @@
 #include "VKPlotterSignal.h"
 #include "VKRibbon.h"
 
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QPixmapCache>
 #include <QSet>
@@ -278,5 +279,6 @@ TEST_F(QualityCheckRoads, french_is_everywhere_at_once_and_in_a_module_opened_ag
     settle();
     workbench->qualityCheck().start();
     EXPECT_EQ(list().headerItem()->text(0), "Signaux de travail");
+    EXPECT_EQ(height().findChild<QDoubleSpinBox*>()->text(), "2,00");
     workbench->language().choose(LanguageSwitch::Language::English);
 }

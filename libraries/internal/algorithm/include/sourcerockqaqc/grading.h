@@ -122,6 +122,19 @@ judge(const std::shared_ptr<const chromato::Chromatogram<Scalar, Values>>& late,
     return judged;
 }
 
+/// The first stages of the chain: cut, even grid, mean level. They alone can refuse a curve: one of finite
+/// values that passes them is graded with any settings that the sliders of the quality check give. So this
+/// is a grading on trial, at a third of its cost.
+template <class Scalar, class Values>
+Grading<Scalar, Values> usefulPart(const std::shared_ptr<const core::Signal1D<Scalar, Values>>& signal) {
+    Grading<Scalar, Values> result;
+    result.start = detail::usefulStart(*signal);
+    result.extracted = signal->extract(result.start.x, 0.9 * signal->X(signal->size() - 1));
+    result.even = std::make_shared<core::Signal1DIsoSampling<Scalar, Values>>(result.extracted);
+    result.mean = detail::integerMean(*result.even);
+    return result;
+}
+
 /// Runs the whole chain on `signal`: cut, even grid, mean level, detection, both filters, grading.
 ///
 /// `signal` is held by a shared pointer and has ascending, finite abscissae. Raises what the stages
@@ -132,12 +145,7 @@ Grading<Scalar, Values> grade(const std::shared_ptr<const core::Signal1D<Scalar,
     using Noise = chromato::NoiseXNO<Scalar, Values>;
     using PeakPosition = typename chromato::PeakFilter<Scalar, Values>::PeakPosition;
 
-    Grading<Scalar, Values> result;
-    result.start = detail::usefulStart(*signal);
-    result.extracted = signal->extract(result.start.x, 0.9 * signal->X(signal->size() - 1));
-    result.even = std::make_shared<core::Signal1DIsoSampling<Scalar, Values>>(result.extracted);
-    result.mean = detail::integerMean(*result.even);
-
+    auto result = usefulPart<Scalar, Values>(signal);
     const std::uint64_t n = result.even->size();
     const Noise noiseless(1, 1, 1, 0, 0); // expects no noise anywhere, so it rejects no peak
     const chromato::Chromatograph<Scalar, Values, Noise> chromatograph(
