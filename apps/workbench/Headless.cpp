@@ -83,6 +83,8 @@ void runIn(Workbench& workbench, const QDir& folder) {
     Workspace& workspace = workbench.window().workspace();
     if (const auto* const table = dynamic_cast<const TableView*>(workspace.currentPage())) {
         printGrades(*table->model());
+        settle();
+        writePicture(folder.filePath(QStringLiteral("table.png")), workbench.window());
     }
     workbench.qualityCheck().list()->selectAll();
     settle();
