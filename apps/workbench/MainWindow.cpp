@@ -6,6 +6,7 @@
 #include "Workspace.h"
 
 #include <QCloseEvent>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
@@ -59,6 +60,14 @@ void MainWindow::restore() {
     restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
     m_columns->restoreState(settings.value(QStringLiteral("window/columns")).toByteArray());
     m_rows->restoreState(settings.value(QStringLiteral("window/rows")).toByteArray());
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    // Another window may have written to the project while this one was behind it.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        m_tree->refresh();
+    }
+    QMainWindow::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -30,6 +30,7 @@ public:
     void setCloseGuard(std::function<bool()> guard) { m_mayClose = std::move(guard); }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -134,6 +134,20 @@ TEST_F(Window, what_is_selected_in_the_tree_opens_as_a_table_and_goes_to_the_qua
     EXPECT_EQ(workbench->qualityCheck().list()->topLevelItem(0)->background(0).color(), QColor("orange"));
 }
 
+TEST_F(Window, what_another_window_stored_shows_when_one_comes_back) {
+    workbench->projects().create(path("lab.vornproj"), &ExampleProject::fill);
+    const auto other = TechDB::TDatabase::open(path("lab.vornproj"));
+    other->addAnalysis("from the other window", {}, TAnalysisData({0, 1, 2}, {1, 2, 1}));
+    tree().findChild<QLineEdit*>()->setText("other window");
+    tree().findChild<QTreeView*>()->selectAll();
+    EXPECT_TRUE(tree().selectedObjects().isEmpty());
+    QApplication::setActiveWindow(&workbench->window());
+    QEvent back(QEvent::ActivationChange);
+    QCoreApplication::sendEvent(&workbench->window(), &back);
+    tree().findChild<QTreeView*>()->selectAll();
+    EXPECT_EQ(tree().selectedObjects().size(), 1);
+}
+
 TEST_F(Window, help_opens_the_guide_at_the_modules_page_and_follows_nothing_outside) {
     ApplicationInterface::returnMe()->showHelp(124);
     settle();
