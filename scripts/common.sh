@@ -14,6 +14,8 @@ cd "$root"
 
 # shellcheck disable=SC2034 # used by the scripts that source this one
 build_packages=(cmake ninja-build g++ ccache rapidjson-dev libcli11-dev libssl-dev)
+# shellcheck disable=SC2034
+desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite qttools5-dev libqwt-qt5-dev fonts-dejavu-core)
 
 say() { printf '==> %s\n' "$*"; }
 
@@ -47,6 +49,36 @@ installed() { [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = i
 
 header() { echo "#include <$1>" | "${CXX:-c++}" -std=c++17 -E -x c++ - ; }
 
+# cmake_runs LINE...: whether CMake gets through these lines of a project, our finders within reach.
+cmake_runs() {
+    local folder status=0
+    folder=$(mktemp -d)
+    printf '%s\n' 'cmake_minimum_required(VERSION 3.22)' 'project(probe LANGUAGES CXX)' \
+        "list(APPEND CMAKE_MODULE_PATH \"$root/cmake\")" "$@" >"$folder/CMakeLists.txt"
+    cmake -G Ninja -S "$folder" -B "$folder/build" || status=1
+    rm -rf "$folder"
+    return $status
+}
+
+# The driver is loaded by name when a project is opened; nothing that builds would miss it.
+sqlite_driver() {
+    # shellcheck disable=SC2016 # the variables are CMake's
+    cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Core Sql)' \
+        'get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)' \
+        'execute_process(COMMAND ${qmake} -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE plugins
+            OUTPUT_STRIP_TRAILING_WHITESPACE)' \
+        'file(GLOB driver "${plugins}/sqldrivers/*qsqlite*")' \
+        'if(NOT driver)' 'message(FATAL_ERROR "no driver")' 'endif()'
+}
+
+font() {
+    local folder
+    for folder in /usr/share/fonts /usr/local/share/fonts ~/.fonts ~/.local/share/fonts; do
+        [ -z "$(find -L "$folder" -name "$1" -print -quit)" ] || return 0
+    done
+    return 1
+}
+
 # Whether what a package carries can be used, whoever put it there.
 usable() {
     case $1 in
@@ -55,6 +87,12 @@ usable() {
         libcli11-dev) header CLI/CLI.hpp ;;
         libssl-dev) header openssl/evp.h ;;
         libgtest-dev) header gtest/gtest.h ;;
+        qtbase5-dev) cmake_runs 'find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui PrintSupport Sql Test Widgets)' ;;
+        libqt5svg5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Svg)' ;;
+        libqt5sql5-sqlite) sqlite_driver ;;
+        qttools5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Core LinguistTools)' ;;
+        libqwt-qt5-dev) cmake_runs 'find_package(Qwt 6.1 REQUIRED)' ;;
+        fonts-dejavu-core) font DejaVuSans.ttf ;;
         *) command -v "$1" ;;
     esac >/dev/null 2>&1
 }
