@@ -57,8 +57,8 @@ void printGrades(const QAbstractItemModel& table) {
     }
 }
 
-void writePicture(const QString& path, const QWidget& widget) {
-    if (!const_cast<QWidget&>(widget).grab().save(path)) {
+void writePicture(const QString& path, QWidget& widget) {
+    if (!widget.grab().save(path)) {
         throw VKError(
             QStringLiteral("The picture <b>%1</b> can't be written: check that its folder may be written.")
                 .arg(path.toHtmlEscaped()));

@@ -24,6 +24,7 @@ MainMenu::MainMenu(MainWindow& window, ProjectCommands& projects, QualityCheck& 
       m_objects(window.menuBar()->addMenu(QString())), m_check(window.menuBar()->addMenu(QString())),
       m_view(window.menuBar()->addMenu(QString())), m_languages(new QMenu(&window)),
       m_looks(new QMenu(&window)), m_help(window.menuBar()->addMenu(QString())),
+      m_languageChoice(new QActionGroup(this)), m_lookChoice(new QActionGroup(this)),
       m_qualityCheck(action(QStringLiteral("modules/vorn_2015/Vorn_SourceRock_QAQC"),
                             QKeySequence(Qt::CTRL + Qt::Key_Q + Qt::SHIFT))),
       m_export(action(QStringLiteral("export"))),
@@ -44,7 +45,7 @@ QAction* MainMenu::action(const QString& icon, const QKeySequence& shortcut) {
     return made;
 }
 
-void MainMenu::buildMenus(ProjectCommands& projects, QualityCheck& qualityCheck) {
+void MainMenu::buildMenus(const ProjectCommands& projects, QualityCheck& qualityCheck) {
     m_project->addActions({projects.newAction(), projects.openAction()});
     m_project->addMenu(projects.recentMenu());
     m_project->addActions({projects.exampleAction(), projects.backupAction()});
@@ -71,7 +72,7 @@ void MainMenu::buildMenus(ProjectCommands& projects, QualityCheck& qualityCheck)
     connect(m_about, &QAction::triggered, this, &MainMenu::showAbout);
 }
 
-void MainMenu::buildStartBar(ProjectCommands& projects) {
+void MainMenu::buildStartBar(const ProjectCommands& projects) {
     VKRibbonBar* const bar = m_window.ribbon().startBar();
     m_projectGroup = bar->addGroup({});
     m_projectGroup->addActionButton(projects.newAction());
@@ -88,14 +89,13 @@ void MainMenu::buildStartBar(ProjectCommands& projects) {
 
 void MainMenu::buildLanguages(LanguageSwitch& language) {
     m_languages->setIcon(TLineIcon::icon(QStringLiteral("language")));
-    auto* const group = new QActionGroup(this);
     using Language = LanguageSwitch::Language;
     // Each in its own tongue, so that who is lost finds the way.
     for (const auto& [name, choice] :
          {std::make_pair("English", Language::English), std::make_pair("Français", Language::French)}) {
         QAction* const entry = m_languages->addAction(QString::fromUtf8(name));
         entry->setCheckable(true);
-        entry->setActionGroup(group);
+        entry->setActionGroup(m_languageChoice);
         entry->setChecked(language.language() == choice);
         connect(entry, &QAction::triggered, &language,
                 [&language, choice = choice] { language.choose(choice); });
@@ -106,13 +106,12 @@ void MainMenu::buildLanguages(LanguageSwitch& language) {
 
 void MainMenu::buildLooks(LookSwitch& look) {
     using Scheme = LookSwitch::Scheme;
-    auto* const group = new QActionGroup(this);
     for (const auto& [entry, scheme] :
          {std::make_pair(&m_desktopLook, Scheme::Desktop), std::make_pair(&m_light, Scheme::Light),
           std::make_pair(&m_dark, Scheme::Dark)}) {
         *entry = m_looks->addAction(QString());
         (*entry)->setCheckable(true);
-        (*entry)->setActionGroup(group);
+        (*entry)->setActionGroup(m_lookChoice);
         (*entry)->setChecked(look.scheme() == scheme);
         connect(*entry, &QAction::triggered, &look, [&look, scheme = scheme] { look.choose(scheme); });
         connect(&look, &LookSwitch::schemeChanged, *entry,

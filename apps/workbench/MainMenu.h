@@ -8,6 +8,7 @@ class LookSwitch;
 class MainWindow;
 class ProjectCommands;
 class QAction;
+class QActionGroup;
 class QMenu;
 class QualityCheck;
 class VKRibbonGroup;
@@ -29,8 +30,8 @@ signals:
 
 private:
     QAction* action(const QString& icon, const QKeySequence& shortcut = {});
-    void buildMenus(ProjectCommands& projects, QualityCheck& qualityCheck);
-    void buildStartBar(ProjectCommands& projects);
+    void buildMenus(const ProjectCommands& projects, QualityCheck& qualityCheck);
+    void buildStartBar(const ProjectCommands& projects);
     void buildLanguages(LanguageSwitch& language);
     void buildLooks(LookSwitch& look);
     void showAbout();
@@ -43,16 +44,18 @@ private:
     QMenu* m_languages;
     QMenu* m_looks;
     QMenu* m_help;
+    QActionGroup* m_languageChoice;
+    QActionGroup* m_lookChoice;
     QAction* m_qualityCheck;
     QAction* m_export;
     QAction* m_find;
     QAction* m_quit;
-    QAction* m_desktopLook;
-    QAction* m_light;
-    QAction* m_dark;
+    QAction* m_desktopLook = nullptr;
+    QAction* m_light = nullptr;
+    QAction* m_dark = nullptr;
     QAction* m_guide;
     QAction* m_about;
-    VKRibbonGroup* m_projectGroup;
-    VKRibbonGroup* m_moduleGroup;
-    VKRibbonGroup* m_helpGroup;
+    VKRibbonGroup* m_projectGroup = nullptr;
+    VKRibbonGroup* m_moduleGroup = nullptr;
+    VKRibbonGroup* m_helpGroup = nullptr;
 };

@@ -24,7 +24,7 @@ public:
     /// Opens it, or brings it to front.
     void start();
     bool isOpen() const { return !m_bar.isNull(); }
-    VKRibbonModuleBar* bar() const { return m_bar; }
+    VKRibbonModuleBar* bar() const { return m_bar.data(); }
     /// The list of signals; null while it isn't open.
     VKListViewSignal* list() const;
 

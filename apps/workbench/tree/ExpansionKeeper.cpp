@@ -33,6 +33,7 @@ bool ExpansionKeeper::isWanted(const ProjectNode& node) const {
     return isSection != m_toggled.contains(idOf(node));
 }
 
+// NOLINTNEXTLINE(misc-no-recursion) as deep as the tree: three levels
 void ExpansionKeeper::applyBelow(const QModelIndex& parent, int first, int last) {
     const QScopedValueRollback<bool> applying(m_applying, true);
     for (int row = first; row <= last; ++row) {

@@ -17,7 +17,7 @@ constexpr int longestName = 60;
 constexpr int iconExtent = 32;
 
 QString shortened(const QString& name) {
-    const QString line = name.simplified();
+    QString line = name.simplified();
     if (line.size() <= longestName) {
         return line;
     }

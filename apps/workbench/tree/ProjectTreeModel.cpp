@@ -86,6 +86,7 @@ QString ProjectTreeModel::shownName(const ProjectNode& node) {
 }
 
 QModelIndex ProjectTreeModel::indexOf(const ProjectNode& node, int column) const {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast) an index takes no pointer to const
     return createIndex(node.row(), column, const_cast<ProjectNode*>(&node));
 }
 
@@ -230,6 +231,7 @@ bool ProjectTreeModel::rename(const ProjectNode& node, const QString& name) {
     }
 }
 
+// NOLINTNEXTLINE(misc-no-recursion) as deep as the tree: three levels
 void ProjectTreeModel::merge(ProjectNode& present, ProjectNode::Children fresh) {
     removeMissing(present, fresh);
     // What is left is in the fresh list too, and both are in the order of their keys.
@@ -282,6 +284,7 @@ void ProjectTreeModel::insert(ProjectNode& present, ProjectNode::Children& fresh
     endInsertRows();
 }
 
+// NOLINTNEXTLINE(misc-no-recursion) as deep as the tree: three levels
 void ProjectTreeModel::update(ProjectNode& present, ProjectNode& fresh) {
     if (!present.looksLike(fresh)) {
         present.name = fresh.name;

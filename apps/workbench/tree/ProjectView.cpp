@@ -63,6 +63,7 @@ void ProjectView::sizeColumns() {
     header()->resizeSection(ProjectTreeModel::PointsColumn, points);
 }
 
+// NOLINTNEXTLINE(misc-no-recursion) as deep as the tree: three levels
 void ProjectView::spanNames(const QModelIndex& parent, int first, int last) {
     for (int row = first; row <= last; ++row) {
         const QModelIndex name = model()->index(row, ProjectTreeModel::NameColumn, parent);

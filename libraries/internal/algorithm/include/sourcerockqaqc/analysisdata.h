@@ -38,6 +38,7 @@ public:
 private:
     friend class SourceRockQAQCMgr<Scalar, Values>; // which finds records by their names
 
+    // cppcheck-suppress unusedPrivateFunction ; the manager uses it
     void setName(const std::string& name) { m_name = name; }
 
     std::string m_name;
