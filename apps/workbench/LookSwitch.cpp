@@ -31,5 +31,5 @@ void LookSwitch::choose(Scheme scheme) {
     }
     m_scheme = scheme;
     QApplication::setStyle(new TavrelStyle(scheme));
-    emit schemeChanged();
-} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks) the application owns its style
+    emit schemeChanged(); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks) the application owns its style
+}
