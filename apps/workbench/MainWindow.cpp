@@ -15,10 +15,10 @@
 
 namespace {
 
-constexpr int treeWidth = 296;
+constexpr int treeWidth = 320;
 constexpr int logHeight = 120;
 constexpr int smallestTree = 200;
-constexpr int smallestLog = 72;
+constexpr int smallestLog = 112;
 
 } // namespace
 

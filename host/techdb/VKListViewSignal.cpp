@@ -4,6 +4,7 @@
 
 VKListViewSignal::VKListViewSignal(QWidget* parent, bool several) : VKListViewVKObject2(parent) {
     setSelectionMode(several ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+    setDropText(tr("Drop analyses here", "Déposez des analyses ici"));
 }
 
 VKListViewSignal::~VKListViewSignal() = default;

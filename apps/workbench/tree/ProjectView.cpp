@@ -15,7 +15,7 @@ namespace {
 
 constexpr int hintMargin = 24;
 constexpr int columnMargin = 16;
-constexpr int lettersOfNames = 20; // with icon and indentation, the least that tells names apart
+constexpr int lettersOfNames = 20; // the least that tells names apart
 constexpr int branchIndent = 16;
 
 } // namespace
@@ -56,7 +56,8 @@ void ProjectView::sizeColumns() {
     const int points = widthOf(QLocale().toString(8'888'888));
     // As if the scroll bar were there, so that columns don't come and go with it.
     const int room = width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    const int rest = room - fontMetrics().averageCharWidth() * lettersOfNames;
+    const int beforeName = 2 * indentation() + style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    const int rest = room - beforeName - fontMetrics().averageCharWidth() * lettersOfNames;
     setColumnHidden(ProjectTreeModel::DateColumn, rest < dates + points);
     setColumnHidden(ProjectTreeModel::PointsColumn, rest < points);
     header()->resizeSection(ProjectTreeModel::DateColumn, dates);

@@ -8,6 +8,10 @@
 
 #include <stdexcept>
 
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/lsan_interface.h>
+#endif
+
 TEST(LastNet, what_leaves_a_slot_is_logged_and_the_window_lives_on) {
     MessageCollector log;
     MessageLoggerInterface::setDefaultLogger(&log);
@@ -35,5 +39,9 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     const Application application(argc, argv);
-    return RUN_ALL_TESTS();
+    const int result = RUN_ALL_TESTS();
+#if defined(__SANITIZE_ADDRESS__)
+    __lsan_do_leak_check(); // before Qt leaves its own things behind
+#endif
+    return result;
 }
