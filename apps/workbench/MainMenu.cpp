@@ -18,7 +18,7 @@
 #include <QMessageBox>
 #include <QToolButton>
 
-MainMenu::MainMenu(MainWindow& window, ProjectCommands& projects, QualityCheck& qualityCheck,
+MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, QualityCheck& qualityCheck,
                    LanguageSwitch& language, LookSwitch& look)
     : QObject(&window), m_window(window), m_project(window.menuBar()->addMenu(QString())),
       m_objects(window.menuBar()->addMenu(QString())), m_check(window.menuBar()->addMenu(QString())),

@@ -19,7 +19,7 @@ class MainMenu : public QObject {
 
 public:
     /// All of them outlive this object, which belongs to the window.
-    MainMenu(MainWindow& window, ProjectCommands& projects, QualityCheck& qualityCheck,
+    MainMenu(MainWindow& window, const ProjectCommands& projects, QualityCheck& qualityCheck,
              LanguageSwitch& language, LookSwitch& look);
 
 public slots:
