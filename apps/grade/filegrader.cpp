@@ -1,5 +1,6 @@
 #include "filegrader.h"
 
+#include "core/exception.h"
 #include "digest.h"
 #include "gradereport/gradekind.h"
 #include "rockeval/channels.h"
@@ -47,11 +48,6 @@ GradedFile graded(const std::string& path, const gradereport::EngineSettings& se
     return file;
 }
 
-/// The engine's failures name their function and source file first; the message stands on the last line.
-std::string lastLine(const std::string& text) {
-    return text.substr(text.rfind('\n') + 1);
-}
-
 } // namespace
 
 Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& settings,
@@ -65,7 +61,7 @@ Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& se
     } catch (const std::exception& error) {
         return gradereport::FailureRecord{
             path, path + ": the curve can't be graded, check that it spans a whole heating (" +
-                      lastLine(error.what()) + ")."};
+                      algo::core::messageOf(error.what()) + ")."};
     }
 }
 

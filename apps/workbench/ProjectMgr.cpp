@@ -4,9 +4,9 @@
 #include "VKError.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QTemporaryDir>
 
 #include <utility>
 
@@ -18,13 +18,6 @@ const QString recentKey = QStringLiteral("projects/recent");
 bool isSameFile(const QString& a, const QString& b) {
     const QString canonical = QFileInfo(a).canonicalFilePath();
     return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
-}
-
-/// What a database engine may have left beside a file of this name.
-void removeWithLogs(const QString& path) {
-    for (const char* const suffix : {"", "-wal", "-shm", "-journal"}) {
-        QFile::remove(path + QLatin1String(suffix));
-    }
 }
 
 } // namespace
@@ -65,21 +58,11 @@ void ProjectMgr::create(const QString& path, const std::function<void(TechDB::TD
                       {},
                       tr("Choose another name for the new one.", "Choisissez un autre nom pour le nouveau."));
     }
-    const QString unfinished = path + QStringLiteral(".new");
-    removeWithLogs(unfinished);
+    const QTemporaryDir folder;
     {
-        const std::unique_ptr<TechDB::TDatabase> project = TechDB::TDatabase::create(unfinished);
+        const auto project = TechDB::TDatabase::create(folder.filePath(QStringLiteral("new.vornproj")));
         fill(*project);
-    }
-    removeWithLogs(path);
-    if (!QFile::rename(unfinished, path)) {
-        removeWithLogs(unfinished);
-        throw VKError(
-            tr("The project <b>%1</b> can't be written.", "Le projet <b>%1</b> ne peut pas être écrit.")
-                .arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
-            {},
-            tr("Check that its folder may be written, or choose another one.",
-               "Vérifiez que l'écriture est permise dans son dossier, ou choisissez-en un autre."));
+        project->backupTo(path); // as a whole, and not onto a project that another window has open
     }
     open(path);
 }

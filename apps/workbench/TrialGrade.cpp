@@ -3,6 +3,7 @@
 #include "ReadAhead.h"
 #include "VKError.h"
 #include "VKObject2Analysis.h"
+#include "core/exception.h"
 #include "sourcerockqaqc/grading.h"
 #include "sourcerockqaqc/rawsignal.h"
 
@@ -14,11 +15,6 @@
 namespace {
 
 using Values = std::vector<double>;
-
-/// The engine's failures name their function and source file first; the message stands on the last line.
-QString lastLine(const char* text) {
-    return QString::fromUtf8(text).section(QLatin1Char('\n'), -1);
-}
 
 void gradeOnce(const TAnalysisData& curve) {
     const auto signal = algo::sr_qaqc::rawSignal<double, Values>(curve.x().data(), curve.y().data(),
@@ -41,7 +37,8 @@ QString TrialGrade::refusal(const VKObject2Analysis& analysis, TechDB::ReadAhead
                    "heating (%2).",
                    "L'analyse <b>%1</b> ne peut pas être évaluée et a été laissée de côté : vérifiez que sa "
                    "courbe couvre toute une chauffe (%2).")
-            .arg(analysis.displayName().toHtmlEscaped(), lastLine(error.what()).toHtmlEscaped());
+            .arg(analysis.displayName().toHtmlEscaped(),
+                 QString::fromStdString(algo::core::messageOf(error.what())).toHtmlEscaped());
     }
     return {};
 }

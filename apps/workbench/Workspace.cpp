@@ -49,6 +49,11 @@ void Workspace::translate() {
                          "signals there to see their curves.",
                          "Ouvrez le contrôle qualité, déposez des analyses du projet sur sa liste, puis "
                          "sélectionnez-y des signaux pour voir leurs courbes."));
+    for (int index = 0; index < m_tabs->count(); ++index) {
+        if (QWidget* const button = m_tabs->tabBar()->tabButton(index, QTabBar::RightSide)) {
+            button->setToolTip(tr("Close (Ctrl+F4)", "Fermer (Ctrl+F4)"));
+        }
+    }
 }
 
 void Workspace::showState() {
@@ -66,8 +71,7 @@ void Workspace::showEditor(QWidget* editor) {
     }
     if (m_tabs->indexOf(editor) < 0) {
         m_tabs->insertTab(0, editor, editor->windowTitle()); // without a button: it is its module's to close
-        connect(editor, &QWidget::windowTitleChanged, m_tabs,
-                [this, editor](const QString& title) { m_tabs->setTabText(m_tabs->indexOf(editor), title); });
+        followTitle(editor);
     }
     if (auto* const plots = dynamic_cast<TechPlot::TEditor*>(editor)) {
         m_plots = plots;
@@ -106,8 +110,7 @@ void Workspace::addTable(std::unique_ptr<VKDataModel> model) {
 
 void Workspace::addPage(QWidget* page) {
     addCloseButton(page, m_tabs->addTab(page, page->windowTitle()));
-    connect(page, &QWidget::windowTitleChanged, m_tabs,
-            [this, page](const QString& title) { m_tabs->setTabText(m_tabs->indexOf(page), title); });
+    followTitle(page);
     bringToFront(page);
 }
 
@@ -117,13 +120,18 @@ void Workspace::addCloseButton(QWidget* page, int index) {
     button->setIcon(TLineIcon::icon(QStringLiteral("close")));
     button->setIconSize(QSize(closeIcon, closeIcon));
     button->setFocusPolicy(Qt::NoFocus); // Ctrl+F4 is the keyboard's way
-    button->setToolTip(tr("Close (Ctrl+F4)", "Fermer (Ctrl+F4)"));
     connect(button, &QToolButton::clicked, page, [this, page] { closeTab(m_tabs->indexOf(page)); });
     m_tabs->tabBar()->setTabButton(index, QTabBar::RightSide, button);
+    translate();
 }
 
 QWidget* Workspace::currentPage() const {
     return m_tabs->currentWidget();
+}
+
+void Workspace::followTitle(QWidget* page) {
+    connect(page, &QWidget::windowTitleChanged, m_tabs,
+            [this, page](const QString& title) { m_tabs->setTabText(m_tabs->indexOf(page), title); });
 }
 
 void Workspace::closeTab(int index) {

@@ -46,6 +46,7 @@ private:
     void translate();
     void bringToFront(QWidget* page);
     void addCloseButton(QWidget* page, int index);
+    void followTitle(QWidget* page);
     void closeTab(int index);
     void showState();
 

@@ -1,11 +1,10 @@
 #include "TMatrixBar.h"
 
+#include "TBarCaption.h"
 #include "TEditorRegistry.h"
 #include "TLineIcon.h"
-#include "TavrelColors.h"
 #include <QAction>
 #include <QEvent>
-#include <QPainter>
 #include <QSettings>
 
 namespace TechPlot {
@@ -13,36 +12,10 @@ namespace TechPlot {
 namespace {
 
 constexpr int iconExtent = 16;
-constexpr int margin = 8;
-
-// A caption that gives way to the buttons: it is shown whole or shortened, as there is room.
-class Hint : public QWidget {
-public:
-    explicit Hint(QWidget* parent) : QWidget(parent) {
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    }
-    void setText(const QString& text) {
-        m_text = text;
-        setToolTip(text);
-        update();
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setPen(TavrelColors::caption(palette()));
-        const QRect room = rect().adjusted(margin, 0, -margin, 0);
-        painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter,
-                         fontMetrics().elidedText(m_text, Qt::ElideRight, room.width()));
-    }
-
-private:
-    QString m_text;
-};
 
 } // namespace
 
-TMatrixBar::TMatrixBar(QWidget* parent) : QToolBar(parent), m_hint(new Hint(this)) {
+TMatrixBar::TMatrixBar(QWidget* parent) : QToolBar(parent), m_hint(new TBarCaption(Qt::ElideRight, this)) {
     setIconSize(QSize(iconExtent, iconExtent));
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_link = addSwitch(QStringLiteral("link_axes"), QStringLiteral("techplot/linked"), false);
@@ -85,7 +58,7 @@ void TMatrixBar::retranslate() {
     const QString keys =
         tr("Drag: zoom  ·  Shift + drag: move  ·  Ctrl + wheel, + and −: zoom  ·  0: all",
            "Glisser : zoom  ·  Maj + glisser : déplacer  ·  Ctrl + molette, + et − : zoom  ·  0 : tout");
-    static_cast<Hint*>(m_hint)->setText(m_count > 0 ? keys : QString());
+    m_hint->setText(m_count > 0 ? keys : QString());
 }
 
 void TMatrixBar::changeEvent(QEvent* event) {

@@ -3,6 +3,7 @@
 #include <QToolBar>
 
 class QAction;
+class TBarCaption;
 
 namespace TechPlot {
 
@@ -33,7 +34,7 @@ private:
     QAction* m_grid;
     QAction* m_reset;
     QAction* m_export;
-    QWidget* m_hint;
+    TBarCaption* m_hint;
     int m_count = 0;
 };
 

@@ -1,10 +1,9 @@
 #include "TViewerColumn.h"
 
+#include "TEmptyHint.h"
 #include "TViewer.h"
-#include "TavrelColors.h"
 #include <QApplication>
 #include <QEvent>
-#include <QPainter>
 #include <QScrollBar>
 
 namespace TechPlot {
@@ -120,13 +119,11 @@ bool TViewerColumn::viewportEvent(QEvent* event) {
 }
 
 void TViewerColumn::paintEmpty() {
-    QPainter painter(viewport());
-    painter.setPen(TavrelColors::caption(palette()));
-    const QRect room = viewport()->rect().adjusted(gap, gap, -gap, -gap);
-    painter.drawText(
-        room, Qt::AlignCenter | Qt::TextWordWrap,
+    TEmptyHint::paint(
+        viewport(),
         tr("No curves to show.\nSelect one or more analyses in the module's list.",
-           "Aucune courbe à afficher.\nSélectionnez une ou plusieurs analyses dans la liste du module."));
+           "Aucune courbe à afficher.\nSélectionnez une ou plusieurs analyses dans la liste du module."),
+        gap);
 }
 
 } // namespace TechPlot

@@ -74,8 +74,7 @@ void VKViewer2D::plotterChanged() {
 }
 
 const TViewRange& VKViewer2D::range() const {
-    if (!m_fitted)
-        fit();
+    fit();
     return m_range;
 }
 
@@ -97,6 +96,8 @@ void VKViewer2D::setCommonSpan(const std::optional<QPair<double, double>>& span)
 }
 
 void VKViewer2D::fit() const {
+    if (m_fitted)
+        return;
     m_fitted = true;
     auto span = timeSpan();
     if (!span)
@@ -179,15 +180,13 @@ void VKViewer2D::resetRange() {
 }
 
 void VKViewer2D::followTime(double from, double to) {
-    if (!m_fitted)
-        fit();
+    fit();
     m_range.showTime(from, to);
     schedule();
 }
 
 void VKViewer2D::followReset() {
-    if (!m_fitted)
-        fit();
+    fit();
     m_range.reset();
     schedule();
 }

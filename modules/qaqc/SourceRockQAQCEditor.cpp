@@ -24,7 +24,6 @@ namespace {
 constexpr int noValue = -9999;
 constexpr int helpIdentifier = 124;
 constexpr int moduleLabelWidth = 480;
-constexpr int dataEditorAction = 98;
 
 /// One row of the legend: a swatch and its word.
 QHBoxLayout* legendRow(QWidget* swatchParent, const QString& styleSheet, const QString& word) {
@@ -85,7 +84,7 @@ void SourceRockQAQCEditor::buildRibbon(TModuleCtrl* ctrl) {
     m_pixmap = QPixmap(":/Ressources/png/modules/vorn_2015/Vorn_SourceRock_QAQC.png");
     setModuleDescription(m_pixmap, tr("Import data", "Import data"));
     addGenericActions(true, false);
-    m_ctrl->setActionEnabled(dataEditorAction, true);
+    m_ctrl->setActionEnabled(ModuleObserver::dataEditorAction, true);
     actionGroup()->setTitle(tr("Actions", "Actions"));
 }
 

@@ -6,8 +6,6 @@ namespace Vorn::SourceRockQAQC {
 
 namespace {
 
-constexpr int datasetRole = 34; // under which the host keeps header texts and cells
-
 bool every(const AnalysisData&) {
     return true;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "ExampleProject.h"
-#include "MessageLogModel.h"
 #include "SliderScientific.h"
 #include "SourceRockQAQCEditor.h"
 #include "TDatabase.h"
@@ -11,39 +10,30 @@
 #include "VKObject2Signal.h"
 #include "VKRibbonModuleBar.h"
 #include "VKViewer2DChroma.h"
-#include "Workbench.h"
+#include "WorkbenchFixture.h"
 #include "Workspace.h"
-
-#include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
-#include <QSettings>
 #include <QSlider>
-#include <QTemporaryDir>
 
 #include <memory>
 
 /// The whole workbench on the example project in a folder of its own, with the quality check open.
-class QualityCheckTest : public testing::Test {
+class QualityCheckTest : public WorkbenchFixture {
 protected:
     using Editor = Vorn::SourceRockQAQC::SourceRockQAQCEditor;
 
     QualityCheckTest() {
-        QSettings().clear();
-        workbench = std::make_unique<Workbench>();
         workbench->projects().create(projectPath(), &ExampleProject::fill);
-        workbench->window().show();
         workbench->qualityCheck().start();
         settle();
     }
 
-    QString projectPath() const { return folder.filePath("lab.vornproj"); }
-    TechDB::TDatabase& project() { return *workbench->projects().projectDatabase(); }
+    QString projectPath() const { return path("lab.vornproj"); }
     Editor* editor() { return dynamic_cast<Editor*>(workbench->qualityCheck().bar()); }
     VKListViewSignal& list() { return *workbench->qualityCheck().list(); }
-    Workspace& workspace() { return workbench->window().workspace(); }
     SliderScientific& sensitivity() { return slider(0); }
     SliderScientific& coelution() { return slider(1); }
     SliderScientific& height() { return slider(2); }
@@ -90,28 +80,6 @@ protected:
         auto* const matrix = dynamic_cast<TechPlot::TEditorMatrix*>(workspace().currentPage());
         return matrix == nullptr ? QVector<const TechPlot::VKViewer2D*>() : matrix->plots();
     }
-
-    QStringList messages(MessageLevel level) {
-        QStringList texts;
-        const MessageLogModel& log = workbench->log();
-        for (int row = 0; row < log.rowCount(); ++row) {
-            const QModelIndex index = log.index(row, MessageLogModel::TextColumn);
-            if (index.data(MessageLogModel::LevelRole).toInt() == static_cast<int>(level)) {
-                texts.append(index.data().toString());
-            }
-        }
-        return texts;
-    }
-
-    static void settle() {
-        for (int pass = 0; pass < 3; ++pass) {
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QCoreApplication::processEvents();
-        }
-    }
-
-    const QTemporaryDir folder;
-    std::unique_ptr<Workbench> workbench;
 
 private:
     /// In the order of their making: sensitivity, coelution, height.

@@ -2,10 +2,9 @@
 
 #include "LogDelegate.h"
 #include "MessageLogModel.h"
-#include "TavrelColors.h"
+#include "TEmptyHint.h"
 
 #include <QHeaderView>
-#include <QPainter>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -14,7 +13,6 @@
 
 namespace {
 
-constexpr int margin = 24;
 constexpr int wheelStep = 24;
 
 } // namespace
@@ -92,8 +90,5 @@ void LogList::paintEvent(QPaintEvent* event) {
     if (model()->rowCount() > 0) {
         return;
     }
-    QPainter painter(viewport());
-    painter.setPen(TavrelColors::caption(palette()));
-    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
+    TEmptyHint::paint(viewport(), m_placeholder);
 }

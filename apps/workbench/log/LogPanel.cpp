@@ -4,6 +4,7 @@
 #include "LogFilter.h"
 #include "LogList.h"
 #include "MessageLogModel.h"
+#include "TActionText.h"
 #include "TLineIcon.h"
 
 #include <QAction>
@@ -47,12 +48,6 @@ void putOnClipboard(const QAbstractItemModel& model, const QVector<int>& rows) {
     if (!text.isEmpty()) {
         QGuiApplication::clipboard()->setText(text);
     }
-}
-
-void setTexts(QAction& action, const QString& text, const QString& tip) {
-    const QString keys = action.shortcut().toString(QKeySequence::NativeText);
-    action.setText(text);
-    action.setToolTip(keys.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, keys));
 }
 
 } // namespace
@@ -178,11 +173,12 @@ void LogPanel::showState() {
 }
 
 void LogPanel::retranslate() {
-    setTexts(*m_copy, tr("Copy", "Copier"),
-             tr("Copy the selected messages", "Copier les messages sélectionnés"));
-    setTexts(*m_copyAll, tr("Copy all", "Tout copier"),
-             tr("Copy all messages shown", "Copier tous les messages affichés"));
-    setTexts(*m_clear, tr("Clear", "Effacer"), tr("Remove all messages", "Supprimer tous les messages"));
+    TActionText::set(*m_copy, tr("Copy", "Copier"),
+                     tr("Copy the selected messages", "Copier les messages sélectionnés"));
+    TActionText::set(*m_copyAll, tr("Copy all", "Tout copier"),
+                     tr("Copy all messages shown", "Copier tous les messages affichés"));
+    TActionText::set(*m_clear, tr("Clear", "Effacer"),
+                     tr("Remove all messages", "Supprimer tous les messages"));
     m_search->setPlaceholderText(tr("Find", "Chercher"));
     const QString keys = QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText);
     m_search->setToolTip(tr("Show only messages that contain this text (%1)",

@@ -19,15 +19,6 @@ SortKey::SortKey(const QVariant& value, const QCollator& collator) {
     }
 }
 
-QCollator SortKey::collator() {
-    const QLocale locale;
-    // The C locale compares bytes and knows no numbers.
-    QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
-    collator.setNumericMode(true);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    return collator;
-}
-
 bool SortKey::operator<(const SortKey& other) const {
     if (m_kind != other.m_kind) {
         return m_kind < other.m_kind;

@@ -12,9 +12,6 @@ class SortKey {
 public:
     SortKey(const QVariant& value, const QCollator& collator);
 
-    /// For texts as people sort them.
-    static QCollator collator();
-
     bool isEmpty() const { return m_kind == Kind::Empty; }
 
     bool operator<(const SortKey& other) const;

@@ -3,6 +3,7 @@
 #include <QToolBar>
 
 class QAction;
+class TBarCaption;
 
 /// The tool row of a table's page: its commands and, as far as there is room, a caption at the end.
 class TableBar : public QToolBar {
@@ -27,5 +28,5 @@ private:
     QAction* m_copy;
     QAction* m_copyWithHeaders;
     QAction* m_export;
-    QWidget* m_caption;
+    TBarCaption* m_caption;
 };

@@ -1,13 +1,12 @@
 #include "TableGrid.h"
 
 #include "CellDelegate.h"
+#include "TEmptyHint.h"
 #include "TableOrder.h"
-#include "TavrelColors.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
-#include <QPainter>
 
 #include <algorithm>
 
@@ -19,7 +18,6 @@ constexpr int columnsFitted = 100;
 
 constexpr int narrowest = 72;
 constexpr int widest = 320;
-constexpr int margin = 24;
 
 } // namespace
 
@@ -117,8 +115,5 @@ void TableGrid::paintEvent(QPaintEvent* event) {
     if (m_order.rowCount() > 0) {
         return;
     }
-    QPainter painter(viewport());
-    painter.setPen(TavrelColors::caption(palette()));
-    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, tr("No rows.", "Aucune ligne."));
+    TEmptyHint::paint(viewport(), tr("No rows.", "Aucune ligne."));
 }

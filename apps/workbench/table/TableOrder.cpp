@@ -1,5 +1,6 @@
 #include "TableOrder.h"
 
+#include "NaturalOrder.h"
 #include "SortKey.h"
 #include "VKDataModel.h"
 #include "VKError.h"
@@ -98,7 +99,7 @@ void TableOrder::sortAgain() {
 }
 
 TableOrder::Rows TableOrder::sortedRows() const {
-    const QCollator collator = SortKey::collator();
+    const QCollator collator = NaturalOrder::collator();
     const int count = sourceModel()->rowCount();
     std::vector<SortKey> keys;
     keys.reserve(static_cast<std::size_t>(count));

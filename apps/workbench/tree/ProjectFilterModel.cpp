@@ -1,5 +1,6 @@
 #include "ProjectFilterModel.h"
 
+#include "NaturalOrder.h"
 #include "ProjectTreeModel.h"
 #include "VKError.h"
 #include "VKObject2Decoder.h"
@@ -18,18 +19,10 @@ QVector<int> placeOf(QModelIndex index) {
     return place;
 }
 
-// The plain C locale compares letter codes and knows no numbers.
-QLocale collatingLocale() {
-    const QLocale locale;
-    return locale.language() == QLocale::C ? QLocale(QLocale::English) : locale;
-}
-
 } // namespace
 
 ProjectFilterModel::ProjectFilterModel(ProjectTreeModel* model, QObject* parent)
-    : QSortFilterProxyModel(parent), m_model(model), m_collator(collatingLocale()) {
-    m_collator.setNumericMode(true);
-    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
+    : QSortFilterProxyModel(parent), m_model(model), m_collator(NaturalOrder::collator()) {
     setRecursiveFilteringEnabled(true);
     setSourceModel(model);
     sort(ProjectTreeModel::NameColumn);
@@ -47,7 +40,7 @@ bool ProjectFilterModel::matches(const ProjectNode& node) const {
 }
 
 void ProjectFilterModel::followLocale() {
-    m_collator.setLocale(collatingLocale());
+    m_collator = NaturalOrder::collator();
     invalidate();
 }
 

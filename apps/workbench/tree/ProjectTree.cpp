@@ -5,6 +5,7 @@
 #include "ProjectFilterModel.h"
 #include "ProjectTreeModel.h"
 #include "ProjectView.h"
+#include "TActionText.h"
 #include "TDatabase.h"
 #include "TLineIcon.h"
 #include "VKError.h"
@@ -27,10 +28,6 @@ namespace {
 
 constexpr int grid = 8;
 constexpr int longestQuote = 160; // pixels of the filter's text in a sentence
-
-QString withKeys(const QString& text, const QAction& action) {
-    return QStringLiteral("%1 (%2)").arg(text, action.shortcut().toString(QKeySequence::NativeText));
-}
 
 QList<const VKObject2*> analysesAmong(QList<const VKObject2*> objects) {
     const auto isOther = [](const VKObject2* object) { return object->type() != VKObjectType::Analysis; };
@@ -233,7 +230,7 @@ void ProjectTree::retranslate() {
     m_export->setText(tr("Export as CSV…", "Exporter en CSV…"));
     m_send->setText(tr("Send to the quality check", "Envoyer au contrôle qualité"));
     for (QAction* action : {m_open, m_rename, m_remove, m_send}) {
-        action->setToolTip(withKeys(action->text(), *action));
+        TActionText::set(*action, action->text(), action->text());
     }
     updateHint();
 }

@@ -2,13 +2,12 @@
 
 #include "NameDelegate.h"
 #include "ProjectTreeModel.h"
-#include "TavrelColors.h"
+#include "TEmptyHint.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLocale>
-#include <QPainter>
 #include <QStyle>
 
 namespace {
@@ -123,10 +122,7 @@ void ProjectView::paintEvent(QPaintEvent* event) {
     if (!isEmpty() || m_hint.isEmpty()) {
         return;
     }
-    QPainter painter(viewport());
-    painter.setPen(TavrelColors::caption(palette()));
-    const QRect room = viewport()->rect().adjusted(hintMargin, hintMargin, -hintMargin, -hintMargin);
-    painter.drawText(room, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_hint);
+    TEmptyHint::paint(viewport(), m_hint, hintMargin, Qt::AlignHCenter | Qt::AlignTop);
 }
 
 void ProjectView::resizeEvent(QResizeEvent* event) {

@@ -9,10 +9,8 @@
 #include "VKObject2Analysis.h"
 #include "VKRibbon.h"
 #include "VKRibbonBar.h"
-#include "Workbench.h"
+#include "WorkbenchFixture.h"
 #include "Workspace.h"
-
-#include <gtest/gtest.h>
 
 #include <QAction>
 #include <QApplication>
@@ -22,47 +20,11 @@
 #include <QMenuBar>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QToolButton>
 #include <QTreeView>
 
-#include <memory>
-
-class Window : public testing::Test {
-protected:
-    Window() {
-        QSettings().clear();
-        start();
-    }
-
-    void start() {
-        workbench.reset();
-        workbench = std::make_unique<Workbench>();
-        workbench->window().show();
-    }
-    void settle() const {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-    }
-    QString path(const QString& name) const { return folder.filePath(name); }
-    QStringList errors() const {
-        QStringList texts;
-        const MessageLogModel& log = workbench->log();
-        for (int row = 0; row < log.rowCount(); ++row) {
-            const QModelIndex index = log.index(row, MessageLogModel::TextColumn);
-            if (index.data(MessageLogModel::LevelRole).toInt() == static_cast<int>(MessageLevel::Error)) {
-                texts.append(index.data().toString());
-            }
-        }
-        return texts;
-    }
-    Workspace& workspace() { return workbench->window().workspace(); }
-    ProjectTree& tree() { return workbench->window().tree(); }
-
-    const QTemporaryDir folder;
-    std::unique_ptr<Workbench> workbench;
-};
+using Window = WorkbenchFixture;
 
 TEST_F(Window, remembers_its_size_its_language_and_the_project) {
     workbench->projects().create(path("lab.vornproj"));
@@ -86,21 +48,25 @@ TEST_F(Window, what_cannot_be_opened_is_named_and_the_open_project_stays) {
     workbench->projectCommands().openProject(other.fileName());
     ASSERT_EQ(errors().size(), 1);
     EXPECT_TRUE(errors()[0].contains("other.vornproj"));
-    EXPECT_EQ(workbench->projects().projectDatabase()->path(), path("lab.vornproj"));
+    EXPECT_EQ(project().path(), path("lab.vornproj"));
 }
 
 TEST_F(Window, a_new_project_takes_the_place_of_an_old_file_once_it_is_whole_and_never_of_the_open_one) {
     workbench->projects().create(path("old.vornproj"), &ExampleProject::fill);
     EXPECT_THROW(workbench->projects().create(path("old.vornproj")), VKError);
-    EXPECT_GE(workbench->projects().projectDatabase()->analyses().size(), 24);
+    EXPECT_GE(project().analyses().size(), 24);
     workbench->projects().create(path("other.vornproj"));
     const auto fails = [](TechDB::TDatabase&) { throw VKError("the disk is full"); };
     EXPECT_THROW(workbench->projects().create(path("old.vornproj"), fails), VKError);
     workbench->projects().open(path("old.vornproj"));
-    EXPECT_GE(workbench->projects().projectDatabase()->analyses().size(), 24) << "still the old one";
+    EXPECT_GE(project().analyses().size(), 24) << "still the old one";
     workbench->projects().open(path("other.vornproj"));
+    auto elsewhere = TechDB::TDatabase::open(path("old.vornproj"));
+    EXPECT_THROW(workbench->projects().create(path("old.vornproj")), VKError) << "open in another window";
+    EXPECT_EQ(elsewhere->problems(), QStringList());
+    elsewhere.reset();
     workbench->projects().create(path("old.vornproj"));
-    EXPECT_TRUE(workbench->projects().projectDatabase()->analyses().isEmpty());
+    EXPECT_TRUE(project().analyses().isEmpty());
 }
 
 TEST_F(Window, the_first_start_makes_the_example_project_and_the_next_finds_it) {
@@ -109,13 +75,13 @@ TEST_F(Window, the_first_start_makes_the_example_project_and_the_next_finds_it) 
     workbench->projectCommands().openAtStart();
     ASSERT_NE(workbench->projects().projectDatabase(), nullptr);
     const QStringList files = QDir(VORN_EXAMPLES).entryList({"*.S00", "*.s00"}, QDir::Files);
-    EXPECT_EQ(workbench->projects().projectDatabase()->analyses().size(), files.size());
-    const auto* const first = workbench->projects().projectDatabase()->getAnalysis("good-clean-01.S00");
-    workbench->projects().projectDatabase()->renameAnalysis(first->key(), "renamed");
+    EXPECT_EQ(project().analyses().size(), files.size());
+    const auto* const first = project().getAnalysis("good-clean-01.S00");
+    project().renameAnalysis(first->key(), "renamed");
     QSettings().clear();
     start();
     workbench->projectCommands().openAtStart();
-    EXPECT_NE(workbench->projects().projectDatabase()->getAnalysis("renamed"), nullptr);
+    EXPECT_NE(project().getAnalysis("renamed"), nullptr);
     EXPECT_TRUE(errors().isEmpty());
 }
 

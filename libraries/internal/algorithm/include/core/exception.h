@@ -27,6 +27,11 @@ public:
     log::Node* node; ///< the log node that was told, or null; not owned
 };
 
+/// The message of a failure's text, without the place where it was raised.
+inline std::string messageOf(const std::string& text) {
+    return text.substr(text.rfind('\n') + 1);
+}
+
 /// Composes the text of a failure and raises it. Kept out of line, and the message is made here, so
 /// that an accessor with a check stays small enough to be inlined.
 template <class MakeMessage>

@@ -1,0 +1,30 @@
+#include "TBarCaption.h"
+
+#include "TavrelColors.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int margin = 8;
+
+} // namespace
+
+TBarCaption::TBarCaption(Qt::TextElideMode elide, QWidget* parent) : QWidget(parent), m_elide(elide) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+}
+
+void TBarCaption::setText(const QString& text) {
+    m_text = text;
+    setToolTip(text.toHtmlEscaped());
+    setAccessibleName(text);
+    update();
+}
+
+void TBarCaption::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(TavrelColors::caption(palette()));
+    const QRect room = rect().adjusted(margin, 0, -margin, 0);
+    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
+                     fontMetrics().elidedText(m_text, m_elide, room.width()));
+}

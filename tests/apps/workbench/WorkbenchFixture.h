@@ -1,0 +1,57 @@
+#pragma once
+
+#include "MessageLogModel.h"
+#include "Workbench.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// The whole workbench without a project, as at its very first start, and a folder for one.
+class WorkbenchFixture : public testing::Test {
+protected:
+    WorkbenchFixture() {
+        QSettings().clear();
+        start();
+    }
+
+    /// Again, with what was remembered.
+    void start() {
+        workbench.reset();
+        workbench = std::make_unique<Workbench>();
+        workbench->window().show();
+    }
+
+    QString path(const QString& name) const { return folder.filePath(name); }
+    TechDB::TDatabase& project() { return *workbench->projects().projectDatabase(); }
+    Workspace& workspace() { return workbench->window().workspace(); }
+    ProjectTree& tree() { return workbench->window().tree(); }
+
+    QStringList messages(MessageLevel level) const {
+        QStringList texts;
+        const MessageLogModel& log = workbench->log();
+        for (int row = 0; row < log.rowCount(); ++row) {
+            const QModelIndex index = log.index(row, MessageLogModel::TextColumn);
+            if (index.data(MessageLogModel::LevelRole).toInt() == static_cast<int>(level)) {
+                texts.append(index.data().toString());
+            }
+        }
+        return texts;
+    }
+    QStringList errors() const { return messages(MessageLevel::Error); }
+
+    static void settle() {
+        for (int pass = 0; pass < 3; ++pass) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCoreApplication::processEvents();
+        }
+    }
+
+    const QTemporaryDir folder;
+    std::unique_ptr<Workbench> workbench;
+};
