@@ -1,0 +1,3 @@
+#include "VKImportAnalysisInterface.h"
+
+VKImportAnalysisInterface::~VKImportAnalysisInterface() = default;

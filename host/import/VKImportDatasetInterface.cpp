@@ -1,0 +1,3 @@
+#include "VKImportDatasetInterface.h"
+
+VKImportDatasetInterface::~VKImportDatasetInterface() = default;

@@ -1,0 +1,3 @@
+#include "VKImportInterface.h"
+
+VKImportInterface::~VKImportInterface() = default;
