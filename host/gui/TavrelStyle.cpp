@@ -1,5 +1,6 @@
 #include "TavrelStyle.h"
 
+#include "TLineIcon.h"
 #include "TavrelColors.h"
 #include "TavrelDrawing.h"
 
@@ -179,6 +180,12 @@ QRect TavrelStyle::scrollBarRect(const QStyleOptionSlider& option, SubControl pa
     default:
         return {};
     }
+}
+
+QIcon TavrelStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                const QWidget* widget) const {
+    return icon == SP_ToolBarHorizontalExtensionButton ? TLineIcon::icon(QStringLiteral("chevron_down"))
+                                                       : QProxyStyle::standardIcon(icon, option, widget);
 }
 
 QPixmap TavrelStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,

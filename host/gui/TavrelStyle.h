@@ -30,6 +30,9 @@ public:
                            const QWidget* widget) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget) const override;
+    // The sign for what has no room in a tool bar is drawn as all icons are. Qt would make it anew from
+    // pictures for each tool bar, and its cache of pictures remembers the key of each for good.
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
                                 const QStyleOption* option) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

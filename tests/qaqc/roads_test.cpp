@@ -219,7 +219,7 @@ TEST_F(QualityCheckRoads, a_thousand_selections_and_slider_steps_leave_memory_fl
     run(100); // caches fill
     const std::size_t before = heapInUse();
     run(1000);
-    EXPECT_LT(heapInUse(), before + 400'000) << "400 bytes a round, where one curve has 10,000";
+    EXPECT_LT(heapInUse(), before + 20'000) << "20 bytes a round";
 }
 
 TEST_F(QualityCheckRoads, the_export_for_learning_is_reached_by_name_and_shown) {

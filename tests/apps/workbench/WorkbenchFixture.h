@@ -24,6 +24,7 @@ protected:
     void start() {
         workbench.reset();
         workbench = std::make_unique<Workbench>();
+        workbench->look().choose(LookSwitch::Scheme::Light);
         workbench->window().show();
     }
 
