@@ -91,7 +91,7 @@ void MainMenu::buildLanguages(LanguageSwitch& language) {
     m_languages->setIcon(TLineIcon::icon(QStringLiteral("language")));
     using Language = LanguageSwitch::Language;
     // Each in its own tongue, so that who is lost finds the way.
-    for (const auto& [name, choice] :
+    for (const auto [name, choice] :
          {std::make_pair("English", Language::English), std::make_pair("Français", Language::French)}) {
         QAction* const entry = m_languages->addAction(QString::fromUtf8(name));
         entry->setCheckable(true);
@@ -106,7 +106,7 @@ void MainMenu::buildLanguages(LanguageSwitch& language) {
 
 void MainMenu::buildLooks(LookSwitch& look) {
     using Scheme = LookSwitch::Scheme;
-    for (const auto& [entry, scheme] :
+    for (const auto [entry, scheme] :
          {std::make_pair(&m_desktopLook, Scheme::Desktop), std::make_pair(&m_light, Scheme::Light),
           std::make_pair(&m_dark, Scheme::Dark)}) {
         *entry = m_looks->addAction(QString());
