@@ -89,34 +89,34 @@ void MainMenu::buildStartBar(const ProjectCommands& projects) {
 
 void MainMenu::buildLanguages(LanguageSwitch& language) {
     m_languages->setIcon(TLineIcon::icon(QStringLiteral("language")));
-    using Language = LanguageSwitch::Language;
-    // Each in its own tongue, so that who is lost finds the way.
-    for (const auto [name, choice] :
-         {std::make_pair("English", Language::English), std::make_pair("Français", Language::French)}) {
+    const auto add = [this, &language](const char* name, LanguageSwitch::Language choice) {
         QAction* const entry = m_languages->addAction(QString::fromUtf8(name));
         entry->setCheckable(true);
         entry->setActionGroup(m_languageChoice);
         entry->setChecked(language.language() == choice);
-        connect(entry, &QAction::triggered, &language,
-                [&language, choice = choice] { language.choose(choice); });
+        connect(entry, &QAction::triggered, &language, [&language, choice] { language.choose(choice); });
         connect(&language, &LanguageSwitch::languageChanged, entry,
-                [entry, &language, choice = choice] { entry->setChecked(language.language() == choice); });
-    }
+                [entry, &language, choice] { entry->setChecked(language.language() == choice); });
+    };
+    // Each in its own tongue, so that who is lost finds the way.
+    add("English", LanguageSwitch::Language::English);
+    add("Français", LanguageSwitch::Language::French);
 }
 
 void MainMenu::buildLooks(LookSwitch& look) {
-    using Scheme = LookSwitch::Scheme;
-    for (const auto [entry, scheme] :
-         {std::make_pair(&m_desktopLook, Scheme::Desktop), std::make_pair(&m_light, Scheme::Light),
-          std::make_pair(&m_dark, Scheme::Dark)}) {
-        *entry = m_looks->addAction(QString());
-        (*entry)->setCheckable(true);
-        (*entry)->setActionGroup(m_lookChoice);
-        (*entry)->setChecked(look.scheme() == scheme);
-        connect(*entry, &QAction::triggered, &look, [&look, scheme = scheme] { look.choose(scheme); });
-        connect(&look, &LookSwitch::schemeChanged, *entry,
-                [entry = *entry, &look, scheme = scheme] { entry->setChecked(look.scheme() == scheme); });
-    }
+    const auto add = [this, &look](LookSwitch::Scheme scheme) {
+        QAction* const entry = m_looks->addAction(QString());
+        entry->setCheckable(true);
+        entry->setActionGroup(m_lookChoice);
+        entry->setChecked(look.scheme() == scheme);
+        connect(entry, &QAction::triggered, &look, [&look, scheme] { look.choose(scheme); });
+        connect(&look, &LookSwitch::schemeChanged, entry,
+                [entry, &look, scheme] { entry->setChecked(look.scheme() == scheme); });
+        return entry;
+    };
+    m_desktopLook = add(LookSwitch::Scheme::Desktop);
+    m_light = add(LookSwitch::Scheme::Light);
+    m_dark = add(LookSwitch::Scheme::Dark);
 }
 
 void MainMenu::translate() {
