@@ -48,11 +48,10 @@ QByteArray workbookStream(const QByteArray& bytes) {
 QString warningOfMissing(int count, const QString& sheet) {
     return QCoreApplication::translate(
                "XlsReader",
-               "Sheet <b>%1</b>: %2 formulas have no stored result, and their cells were left empty; open "
-               "the "
-               "file in Excel and save it again.",
-               "Feuille <b>%1</b> : %2 formules n'ont pas de résultat enregistré et leurs cellules sont "
-               "restées vides ; ouvrez le fichier dans Excel et enregistrez-le à nouveau.")
+               "Sheet <b>%1</b>: the stored result of %2 cell(s) with a formula is missing, and they were "
+               "left empty; open the file in Excel and save it again.",
+               "Feuille <b>%1</b> : le résultat enregistré de %2 cellule(s) avec formule manque et elles "
+               "sont restées vides ; ouvrez le fichier dans Excel et enregistrez-le à nouveau.")
         .arg(sheet.toHtmlEscaped())
         .arg(count);
 }
