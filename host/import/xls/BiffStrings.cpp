@@ -44,31 +44,28 @@ QString characters(BiffCursor& content, bool isWide, int count) {
     return text;
 }
 
-QString textOf(BiffCursor& content, int count, int longest) {
-    if (count > longest) {
-        throw XlsRefusal(XlsRefusal::Cause::TextTooLong);
-    }
+QString textOf(BiffCursor& content, int count) {
     if (count == 0 && !content.hasMore()) { // some writers leave the flags of an empty text out
         return QLatin1String("");
     }
     const quint8 flags = content.u8();
     const qint64 runs = (flags & richFlag) != 0 ? content.u16() : 0;
     const qint64 phonetic = (flags & phoneticFlag) != 0 ? content.u32() : 0;
-    const QString text = characters(content, (flags & wideFlag) != 0, count);
+    QString text = characters(content, (flags & wideFlag) != 0, count);
     content.skip(runs * bytesOfRun + phonetic);
     return text;
 }
 
 } // namespace
 
-QString shortText(BiffCursor& content, int longest) {
+QString shortText(BiffCursor& content) {
     const int count = content.u8();
-    return textOf(content, count, longest);
+    return textOf(content, count);
 }
 
-QString text(BiffCursor& content, int longest) {
+QString text(BiffCursor& content) {
     const int count = content.u16();
-    return textOf(content, count, longest);
+    return textOf(content, count);
 }
 
 std::vector<QString> sharedTexts(BiffCursor& content, XlsBudget& budget) {
@@ -76,8 +73,7 @@ std::vector<QString> sharedTexts(BiffCursor& content, XlsBudget& budget) {
     const qint64 count = content.u32();
     std::vector<QString> texts; // grows with what is there, not with what is claimed
     for (qint64 i = 0; i < count; ++i) {
-        texts.push_back(text(content, budget.textLength()));
-        budget.takeText(texts.back());
+        texts.push_back(budget.taken(text(content)));
     }
     return texts;
 }

@@ -80,7 +80,7 @@ CompoundFile::CompoundFile(const QByteArray& bytes) {
         refuse(XlsRefusal::Cause::Damaged);
     }
     m_leastBigStream = number<quint32>(bytes, leastBigStreamAt);
-    const quint32 smallTable = number<quint32>(bytes, smallTableAt);
+    const auto smallTable = number<quint32>(bytes, smallTableAt);
     if (smallTable <= SectorChains::LastSector) {
         const QByteArray small = m_sectors.wholeChain(number<quint32>(directory, startAt));
         m_smallSectors = SectorChains(small, 0, smallSectorSize, numbers(m_sectors.wholeChain(smallTable)));
@@ -120,7 +120,7 @@ void CompoundFile::readSectors(const QByteArray& bytes) {
 /// Where the table of what follows each sector is itself kept: the first 109 places stand in the header, more
 /// of them in sectors each of which ends with the number of the next.
 std::vector<quint32> CompoundFile::tableSectors(const QByteArray& bytes) const {
-    const auto numbersInSector = static_cast<qint64>(m_sectors.sectorSize() / sizeof(quint32));
+    const qint64 numbersInSector = m_sectors.sectorSize() / static_cast<qint64>(sizeof(quint32));
     const qint64 needed = (m_sectors.sectorCount() + numbersInSector - 1) / numbersInSector;
     std::vector<quint32> found;
     // Places past those needed would describe sectors that the file doesn't have.
@@ -132,7 +132,7 @@ std::vector<quint32> CompoundFile::tableSectors(const QByteArray& bytes) const {
     for (int at = tableSectorsAt; at < headerSize; at += static_cast<int>(sizeof(quint32))) {
         take(number<quint32>(bytes, at));
     }
-    quint32 more = number<quint32>(bytes, moreTableSectorsAt);
+    auto more = number<quint32>(bytes, moreTableSectorsAt);
     for (qint64 steps = 0; more <= SectorChains::LastSector && static_cast<qint64>(found.size()) < needed;
          ++steps) {
         if (steps == m_sectors.sectorCount()) {

@@ -15,7 +15,7 @@ qint64 SectorChains::sectorCount() const {
 }
 
 QByteArray SectorChains::sector(quint32 number) const {
-    const QByteArray found = part(number, m_sectorSize);
+    QByteArray found = part(number, m_sectorSize);
     if (found.size() < m_sectorSize) {
         throw XlsRefusal(XlsRefusal::Cause::Truncated);
     }
@@ -27,7 +27,7 @@ QByteArray SectorChains::wholeChain(quint32 first) const {
 }
 
 QByteArray SectorChains::bytes(quint32 first, qint64 size) const {
-    const QByteArray found = joined(first, size);
+    QByteArray found = joined(first, size);
     if (found.size() < size) {
         throw XlsRefusal(XlsRefusal::Cause::Truncated);
     }
@@ -60,6 +60,7 @@ QByteArray SectorChains::part(quint32 number, qint64 atMost) const {
     if (number >= sectorCount()) {
         throw XlsRefusal(XlsRefusal::Cause::Truncated);
     }
-    const qint64 position = m_start + qint64{number} * m_sectorSize; // lies within the bytes, so fits an int
+    const qint64 position =
+        m_start + static_cast<qint64>(number) * m_sectorSize; // lies within the bytes, so fits an int
     return m_bytes.mid(static_cast<int>(position), static_cast<int>(std::min<qint64>(m_sectorSize, atMost)));
 }

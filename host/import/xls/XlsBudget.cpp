@@ -17,20 +17,23 @@ void XlsBudget::takeCell() {
 
 void XlsBudget::takeColumns(int oldLength, int newLength) {
     if (newLength > m_limits.columns) {
-        throw XlsRefusal(XlsRefusal::Cause::TooLargeUnpacked);
+        throw XlsRefusal(XlsRefusal::Cause::TooManyColumns);
     }
     takeBytes(qint64{newLength - oldLength} * static_cast<qint64>(sizeof(QVariant)));
 }
 
 void XlsBudget::takeRows(int oldCount, int newCount) {
     if (newCount > m_limits.rows) {
-        throw XlsRefusal(XlsRefusal::Cause::TooLargeUnpacked);
+        throw XlsRefusal(XlsRefusal::Cause::TooManyRows);
     }
     takeBytes(qint64{newCount - oldCount} * static_cast<qint64>(sizeof(std::vector<QVariant>)));
 }
 
-void XlsBudget::takeText(const QString& text) {
-    takeBytes(bytesOfTextHead + qint64{text.size()} * static_cast<qint64>(sizeof(QChar)));
+QString XlsBudget::taken(const QString& text) {
+    m_cutTexts += text.size() > m_limits.textLength ? 1 : 0;
+    QString kept = text.left(m_limits.textLength);
+    takeBytes(bytesOfTextHead + qint64{kept.size()} * static_cast<qint64>(sizeof(QChar)));
+    return kept;
 }
 
 void XlsBudget::takeSheet() {

@@ -16,11 +16,13 @@ public:
     /// For a sheet of `oldCount` rows to become one of `newCount`, the new ones empty.
     void takeRows(int oldCount, int newCount);
 
-    void takeText(const QString& text);
+    /// The text, cut at the length that the limits allow; from a file in a form that cells can't hold.
+    QString taken(const QString& text);
     void takeSheet();
     void takeMergedRange();
 
-    int textLength() const { return m_limits.textLength; }
+    /// How many texts were cut.
+    int cutTexts() const { return m_cutTexts; }
 
 private:
     void takeBytes(qint64 bytes);
@@ -29,4 +31,5 @@ private:
     qint64 m_cells = 0;
     qint64 m_bytes = 0;
     int m_sheets = 0;
+    int m_cutTexts = 0;
 };

@@ -65,7 +65,7 @@ void XlsGlobals::take(BiffRecord& record, XlsBudget& budget) {
         m_styles.setOrigin(content.u16() == 1 ? ExcelDate::Origin::Year1904 : ExcelDate::Origin::Year1900);
         break;
     case BiffRecord::Format:
-        takeFormat(content, budget);
+        takeFormat(content);
         break;
     case BiffRecord::ExtendedFormat:
         content.skip(2); // the font
@@ -81,13 +81,15 @@ void XlsGlobals::takeSheet(BiffCursor& content, XlsBudget& budget) {
     const qint64 position = content.u32();
     const bool hidden = (content.u8() & 0x03) != 0; // 2 is hidden from the list of hidden ones too
     const quint8 type = content.u8();
-    const QString name = BiffStrings::shortText(content, budget.textLength());
+    const QString name = BiffStrings::shortText(content);
     if (type == 0) {
         m_worksheets.push_back({name, position, hidden});
+    } else {
+        m_otherSheets << name;
     }
 }
 
-void XlsGlobals::takeFormat(BiffCursor& content, const XlsBudget& budget) {
+void XlsGlobals::takeFormat(BiffCursor& content) {
     const quint16 format = content.u16();
-    m_styles.addFormat(format, BiffStrings::text(content, budget.textLength()));
+    m_styles.addFormat(format, BiffStrings::text(content));
 }

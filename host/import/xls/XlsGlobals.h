@@ -4,6 +4,7 @@
 #include "XlsStyles.h"
 
 #include <QByteArray>
+#include <QStringList>
 
 #include <vector>
 
@@ -22,8 +23,9 @@ public:
     /// From the start of the workbook's stream.
     XlsGlobals(const QByteArray& stream, XlsBudget& budget);
 
-    /// Worksheets in their order, without charts and macros.
     const std::vector<SheetPlace>& worksheets() const { return m_worksheets; }
+    /// Names of the sheets that are charts or macros.
+    const QStringList& otherSheets() const { return m_otherSheets; }
     const XlsStyles& styles() const { return m_styles; }
 
     /// Of those that cells name by their place; refuses a place that isn't there.
@@ -32,9 +34,10 @@ public:
 private:
     void take(BiffRecord& record, XlsBudget& budget);
     void takeSheet(BiffCursor& content, XlsBudget& budget);
-    void takeFormat(BiffCursor& content, const XlsBudget& budget);
+    void takeFormat(BiffCursor& content);
 
     std::vector<SheetPlace> m_worksheets;
+    QStringList m_otherSheets;
     std::vector<QString> m_texts;
     XlsStyles m_styles;
 };

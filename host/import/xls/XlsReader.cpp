@@ -45,15 +45,31 @@ QByteArray workbookStream(const QByteArray& bytes) {
     throw XlsRefusal(isOlder ? Cause::OlderFormat : Cause::NoWorkbook);
 }
 
+QString translated(const char* english, const char* french) {
+    return QCoreApplication::translate("XlsReader", english, french);
+}
+
 QString warningOfMissing(int count, const QString& sheet) {
-    return QCoreApplication::translate(
-               "XlsReader",
-               "Sheet <b>%1</b>: the stored result of %2 cell(s) with a formula is missing, and they were "
-               "left empty; open the file in Excel and save it again.",
-               "Feuille <b>%1</b> : le résultat enregistré de %2 cellule(s) avec formule manque et elles "
-               "sont restées vides ; ouvrez le fichier dans Excel et enregistrez-le à nouveau.")
+    return translated(
+               "In sheet <b>%1</b>, %2 formulas have no stored result and count as empty; open the file "
+               "in a spreadsheet program and save it.",
+               "Dans la feuille <b>%1</b>, %2 formules n'ont pas de résultat enregistré et comptent "
+               "comme vides ; ouvrez le fichier dans un tableur et enregistrez-le.")
         .arg(sheet.toHtmlEscaped())
         .arg(count);
+}
+
+QString warningOfOther(const QString& sheet) {
+    return translated("Sheet <b>%1</b> holds no table and was left out.",
+                      "La feuille <b>%1</b> ne contient pas de tableau et a été ignorée.")
+        .arg(sheet.toHtmlEscaped());
+}
+
+QString warningOfCut(int count, int length) {
+    return translated("%1 texts were cut after %2 characters.",
+                      "%1 textes ont été coupés après %2 caractères.")
+        .arg(count)
+        .arg(length);
 }
 
 /// Reads one sheet into the book and returns how many bytes of the stream it took.
@@ -85,6 +101,9 @@ Workbook::Book readBook(const QByteArray& bytes, const Workbook::Limits& limits)
     XlsBudget budget(limits);
     const XlsGlobals globals(stream, budget);
     Workbook::Book book;
+    for (const QString& name : globals.otherSheets()) {
+        book.warnings << warningOfOther(name);
+    }
     qint64 taken = 0;
     for (const XlsGlobals::SheetPlace& place : globals.worksheets()) {
         taken += readSheet(stream, place, globals, budget, book);
@@ -94,6 +113,9 @@ Workbook::Book readBook(const QByteArray& bytes, const Workbook::Limits& limits)
     }
     if (book.sheets.empty()) {
         throw XlsRefusal(Cause::NoWorksheet);
+    }
+    if (budget.cutTexts() > 0) {
+        book.warnings << warningOfCut(budget.cutTexts(), limits.textLength);
     }
     return book;
 }
@@ -105,6 +127,6 @@ Workbook::Book XlsReader::read(const QByteArray& bytes, const QString& fileName,
     try {
         return readBook(bytes, limits);
     } catch (const XlsRefusal& refusal) {
-        throw refusal.toError(fileName);
+        throw refusal.toError(fileName, limits);
     }
 }

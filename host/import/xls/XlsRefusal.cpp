@@ -3,17 +3,18 @@
 #include "VKError.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 namespace {
 
 using Cause = XlsRefusal::Cause;
 
+constexpr qint64 mebibyte = 1024LL * 1024;
+
 QString translated(const char* english, const char* french) {
     return QCoreApplication::translate("XlsRefusal", english, french);
 }
 
-QString reason(Cause cause) {
+QString reason(Cause cause, const Workbook::Limits& limits) {
     switch (cause) {
     case Cause::Empty:
         return translated("it is empty.", "il est vide.");
@@ -41,17 +42,22 @@ QString reason(Cause cause) {
         return translated("it is damaged: its parts lead in a circle.",
                           "il est endommagé : ses parties forment un cercle.");
     case Cause::FileTooLarge:
-        return translated("it is too large.", "il est trop volumineux.");
+        return translated("it is larger than %1 MiB.", "il dépasse %1 Mio.").arg(limits.fileBytes / mebibyte);
     case Cause::TooLargeUnpacked:
-        return translated("its tables are too large for the memory.",
-                          "ses tableaux sont trop grands pour la mémoire.");
+        return translated("its tables would take more than %1 MiB of memory.",
+                          "ses tableaux occuperaient plus de %1 Mio de mémoire.")
+            .arg(limits.unpackedBytes / mebibyte);
     case Cause::TooManyCells:
-        return translated("it holds too many cells.", "il contient trop de cellules.");
+        return translated("it has more than %1 cells.", "il a plus de %1 cellules.").arg(limits.cells);
     case Cause::TooManySheets:
-        return translated("it holds too many sheets.", "il contient trop de feuilles.");
-    case Cause::TextTooLong:
-        return translated("a text in it is longer than a cell can hold.",
-                          "un de ses textes est plus long que ce qu'une cellule peut contenir.");
+        return translated("it has more than %1 sheets.", "il a plus de %1 feuilles.").arg(limits.sheets);
+    case Cause::TooManyRows:
+        return translated("a table in it has more than %1 rows.", "un de ses tableaux a plus de %1 lignes.")
+            .arg(limits.rows);
+    case Cause::TooManyColumns:
+        return translated("a table in it has more than %1 columns.",
+                          "un de ses tableaux a plus de %1 colonnes.")
+            .arg(limits.columns);
     }
     return {};
 }
@@ -62,7 +68,6 @@ QString advice(Cause cause) {
     case Cause::Truncated:
     case Cause::Damaged:
     case Cause::Loop:
-    case Cause::TextTooLong:
         return translated("Copy it again from where it came from, or open it in Excel and save it as .xlsx.",
                           "Copiez-le à nouveau depuis son origine, ou ouvrez-le dans Excel et enregistrez-le "
                           "au format .xlsx.");
@@ -82,6 +87,8 @@ QString advice(Cause cause) {
     case Cause::TooLargeUnpacked:
     case Cause::TooManyCells:
     case Cause::TooManySheets:
+    case Cause::TooManyRows:
+    case Cause::TooManyColumns:
         return translated("Split it into several workbooks.", "Divisez-le en plusieurs classeurs.");
     }
     return {};
@@ -91,10 +98,10 @@ QString advice(Cause cause) {
 
 XlsRefusal::~XlsRefusal() = default;
 
-VKError XlsRefusal::toError(const QString& fileName) const {
-    const QString message =
-        translated("File <b>%1</b> cannot be read: %2", "Le fichier <b>%1</b> ne peut pas être lu : %2")
-            .arg(QDir::toNativeSeparators(fileName).toHtmlEscaped(), reason(m_cause));
+VKError XlsRefusal::toError(const QString& fileName, const Workbook::Limits& limits) const {
+    const QString message = translated("The workbook <b>%1</b> can't be read: %2",
+                                       "Le classeur <b>%1</b> ne peut pas être lu : %2")
+                                .arg(fileName.toHtmlEscaped(), reason(m_cause, limits));
     const QString place = m_sheet.isEmpty()
                               ? QString()
                               : translated("(In the sheet <b>%1</b>.)", "(Dans la feuille <b>%1</b>.)")

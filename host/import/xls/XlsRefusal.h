@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Workbook.h"
+
 #include <QString>
 
 #include <exception>
@@ -22,10 +24,11 @@ public:
         Damaged,     ///< contradicts itself
         Loop,        ///< its sectors lead back to themselves
         FileTooLarge,
-        TooLargeUnpacked,
+        TooLargeUnpacked, ///< gaps between cells take memory too
         TooManyCells,
         TooManySheets,
-        TextTooLong,
+        TooManyRows,
+        TooManyColumns,
     };
 
     explicit XlsRefusal(Cause cause) : m_cause(cause) {}
@@ -39,7 +42,8 @@ public:
     /// The sheet in which the fault lies, if it lies in one.
     void setSheet(const QString& name) { m_sheet = name; }
 
-    VKError toError(const QString& fileName) const;
+    /// The limits are those that were held to.
+    VKError toError(const QString& fileName, const Workbook::Limits& limits) const;
 
 private:
     Cause m_cause;

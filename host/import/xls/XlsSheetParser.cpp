@@ -181,7 +181,7 @@ void XlsSheetParser::takeFormulaText(BiffCursor& content) {
     if (!m_awaitsText) {
         return;
     }
-    storeText(*m_awaitsText, BiffStrings::text(content, m_budget.textLength()));
+    storeText(*m_awaitsText, BiffStrings::text(content));
     m_awaitsText.reset();
 }
 
@@ -207,7 +207,7 @@ void XlsSheetParser::takeSharedText(BiffCursor& content) {
 void XlsSheetParser::takeOwnText(BiffCursor& content) {
     const Place at = place(content);
     content.skip(2); // the style
-    storeText(at, BiffStrings::text(content, m_budget.textLength()));
+    storeText(at, BiffStrings::text(content));
 }
 
 void XlsSheetParser::takeMerged(BiffCursor& content) {
@@ -227,8 +227,7 @@ void XlsSheetParser::takeMerged(BiffCursor& content) {
 }
 
 void XlsSheetParser::storeText(const Place& at, const QString& text) {
-    m_budget.takeText(text);
-    store(at, text);
+    store(at, m_budget.taken(text));
 }
 
 void XlsSheetParser::store(const Place& at, const QVariant& value) {

@@ -3,7 +3,8 @@
 
 Two of them come from xlwt. What it can't write (stored results of formulas, phonetic hints, inline
 formatted texts, charts, small streams, large sectors) is built here record by record. What a file holds
-is told by another reader, xlrd; nothing of this project takes part.
+is told by another reader, xlrd; nothing of this project takes part. Some of it is also what the fuzz target
+of the reader starts from.
 
     make-xls.py                     writes data/ anew
     make-xls.py --large FILE        writes a workbook of 10,000 rows and 40 columns, for measuring
@@ -13,6 +14,7 @@ import argparse
 import datetime
 import json
 import random
+import shutil
 import struct
 from pathlib import Path
 
@@ -20,6 +22,7 @@ import xlrd
 import xlwt
 
 FOLDER = Path(__file__).resolve().parent / "data"
+FUZZ_SEEDS = Path(__file__).resolve().parents[2] / "fuzz" / "corpus" / "xls"
 FREE, END, TABLE, MORE_TABLE = 0xFFFFFFFF, 0xFFFFFFFE, 0xFFFFFFFD, 0xFFFFFFFC
 
 # --- with xlwt --------------------------------------------------------------------------------------
@@ -256,6 +259,7 @@ def write_built(folder):
     chart = start(0x20) + record(0x0203, u16(0, 0, 0), struct.pack("<d", 13.0)) + STOP
     sheets = [("Chart", 0, 2, chart), ("Results", 0, 0, results_sheet()), ("Macros", 0, 1, start(0x40) + STOP)]
     results = stream(sheets, shared_texts())
+    (FUZZ_SEEDS / "records").write_bytes(results)
     (folder / "results-small-stream.xls").write_bytes(compound(results, 512))
     (folder / "results-large-sectors.xls").write_bytes(compound(results, 4096))
     (folder / "results-listed-table.xls").write_bytes(compound(results.ljust(5000, b"\0"), 512, table_by_list=True))
@@ -310,6 +314,8 @@ def main():
     write_tables(FOLDER / "tables.xls")
     write_long_texts(FOLDER / "long-texts.xls")
     write_built(FOLDER)
+    for name in ("results-small-stream.xls", "results-listed-table.xls"):
+        shutil.copy(FOLDER / name, FUZZ_SEEDS)
     for path in sorted(FOLDER.glob("*.xls")):
         # xlrd looks for sectors of 4096 bytes in another place; the same workbook lies in small ones.
         told_by = FOLDER / "results-small-stream.xls" if path.name == "results-large-sectors.xls" else path
