@@ -53,6 +53,7 @@ private:
     QSqlDatabase m_database;
     QHash<QString, QSqlQuery> m_statements;
     int m_openTransactions = 0;
+    bool m_givenUp = false;
 };
 
 } // namespace TechDB
