@@ -1,5 +1,6 @@
 #include "SampleStore.h"
 
+#include "BulkInsert.h"
 #include "SqlConnection.h"
 #include "VKError.h"
 
@@ -82,14 +83,6 @@ bool isSame(const TProperty& one, const TProperty& other) {
            one.comment() == other.comment();
 }
 
-QString insertRow() {
-    return QStringLiteral("INSERT INTO sample_rows (sample_id, position, name) VALUES (?, ?, ?)");
-}
-
-QString insertColumn() {
-    return QStringLiteral("INSERT INTO sample_columns (sample_id, position, name) VALUES (?, ?, ?)");
-}
-
 QString selectRows() {
     return QStringLiteral("SELECT position, name FROM sample_rows WHERE sample_id = ? ORDER BY position");
 }
@@ -111,8 +104,8 @@ void SampleStore::check(const SampleTable& table) {
 }
 
 void SampleStore::add(qint64 sample, const SampleTable& table) {
-    addNames(insertRow(), sample, 0, table.rowNames);
-    addNames(insertColumn(), sample, 0, table.columnNames);
+    addNames(QStringLiteral("sample_rows"), sample, 0, table.rowNames);
+    addNames(QStringLiteral("sample_columns"), sample, 0, table.columnNames);
     addProperties(sample, 0, table.properties);
     addValues(sample, ascending(table.rowNames.size()), 0, table);
 }
@@ -126,8 +119,8 @@ void SampleStore::addColumns(qint64 sample, const SampleTable& table) {
     if (rows.size() * columns > maximumCells) {
         throwTooLarge(rows.size(), columns);
     }
-    addNames(insertRow(), sample, formerRows, rows.mid(formerRows));
-    addNames(insertColumn(), sample, firstColumn, table.columnNames);
+    addNames(QStringLiteral("sample_rows"), sample, formerRows, rows.mid(formerRows));
+    addNames(QStringLiteral("sample_columns"), sample, firstColumn, table.columnNames);
     const QList<TProperty> known = properties(sample);
     QList<TProperty> added;
     std::copy_if(table.properties.begin(), table.properties.end(), std::back_inserter(added),
@@ -139,27 +132,34 @@ void SampleStore::addColumns(qint64 sample, const SampleTable& table) {
     addValues(sample, places, firstColumn, table);
 }
 
-void SampleStore::addNames(const QString& statement, qint64 sample, int firstPosition,
-                           const QStringList& names) {
+void SampleStore::addNames(const QString& table, qint64 sample, int firstPosition, const QStringList& names) {
+    BulkInsert rows(m_connection, table + QLatin1String(" (sample_id, position, name)"), 3);
     for (int i = 0; i < names.size(); ++i) {
-        m_connection.execute(statement, {sample, firstPosition + i, SqlConnection::text(names.at(i))});
+        rows.add({sample, firstPosition + i, SqlConnection::text(names.at(i))});
     }
+    rows.finish();
 }
 
 void SampleStore::addProperties(qint64 sample, int firstPosition, const QList<TProperty>& properties) {
+    BulkInsert rows(m_connection,
+                    QStringLiteral("sample_properties (sample_id, position, name, value, unit, comment)"), 6);
     for (int i = 0; i < properties.size(); ++i) {
         const TProperty& property = properties.at(i);
-        m_connection.execute(
-            QStringLiteral("INSERT INTO sample_properties (sample_id, position, name, value, unit, comment)"
-                           " VALUES (?, ?, ?, ?, ?, ?)"),
-            {sample, firstPosition + i, SqlConnection::text(property.name()),
-             SqlConnection::text(property.value()), SqlConnection::text(property.unit()),
-             SqlConnection::text(property.comment())});
+        rows.add({sample, firstPosition + i, SqlConnection::text(property.name()),
+                  SqlConnection::text(property.value()), SqlConnection::text(property.unit()),
+                  SqlConnection::text(property.comment())});
     }
+    rows.finish();
 }
 
 void SampleStore::addValues(qint64 sample, const QVector<int>& rowPositions, int firstColumn,
                             const SampleTable& table) {
+    static const QVariant noNumber(QVariant::Double);
+    static const QVariant noText(QVariant::String);
+    BulkInsert rows(
+        m_connection,
+        QStringLiteral("sample_values (sample_id, row_position, column_position, number_value, text_value)"),
+        5);
     const int columns = table.columnNames.size();
     for (int place = 0; place < table.cells.size(); ++place) {
         const QVariant& cell = table.cells.at(place);
@@ -167,14 +167,10 @@ void SampleStore::addValues(qint64 sample, const QVector<int>& rowPositions, int
             continue;
         }
         const bool number = cell.type() == QVariant::Double;
-        m_connection.execute(
-            QStringLiteral("INSERT INTO sample_values"
-                           " (sample_id, row_position, column_position, number_value, text_value)"
-                           " VALUES (?, ?, ?, ?, ?)"),
-            {sample, rowPositions.at(place / columns), firstColumn + place % columns,
-             number ? cell : QVariant(QVariant::Double),
-             number ? QVariant(QVariant::String) : SqlConnection::text(cell.toString())});
+        rows.add({sample, rowPositions.at(place / columns), firstColumn + place % columns,
+                  number ? cell : noNumber, number ? noText : SqlConnection::text(cell.toString())});
     }
+    rows.finish();
 }
 
 SampleTable SampleStore::table(qint64 sample) const {

@@ -33,7 +33,7 @@ public:
     SampleTable table(qint64 sample) const;
 
 private:
-    void addNames(const QString& statement, qint64 sample, int firstPosition, const QStringList& names);
+    void addNames(const QString& table, qint64 sample, int firstPosition, const QStringList& names);
     void addProperties(qint64 sample, int firstPosition, const QList<TProperty>& properties);
     void addValues(qint64 sample, const QVector<int>& rowPositions, int firstColumn,
                    const SampleTable& table);

@@ -52,7 +52,7 @@ SqlConnection::~SqlConnection() {
     QSqlDatabase::removeDatabase(m_name);
 }
 
-void SqlConnection::run(const QString& statement, const QVariantList& values) {
+void SqlConnection::run(const QString& statement, const Values& values) {
     QSqlQuery query(m_database);
     query.setForwardOnly(true);
     if (!query.prepare(m_dialect->adapted(statement))) {
@@ -61,21 +61,21 @@ void SqlConnection::run(const QString& statement, const QVariantList& values) {
     start(query, values);
 }
 
-int SqlConnection::execute(const QString& statement, const QVariantList& values) {
+int SqlConnection::execute(const QString& statement, const Values& values) {
     QSqlQuery& query = prepared(statement);
     const Finished finished(query);
     start(query, values);
     return query.numRowsAffected();
 }
 
-qint64 SqlConnection::insert(const QString& statement, const QVariantList& values) {
+qint64 SqlConnection::insert(const QString& statement, const Values& values) {
     QSqlQuery& query = prepared(statement);
     const Finished finished(query);
     start(query, values);
     return query.lastInsertId().toLongLong();
 }
 
-void SqlConnection::select(const QString& statement, const QVariantList& values, const RowReader& reader) {
+void SqlConnection::select(const QString& statement, const Values& values, const RowReader& reader) {
     QSqlQuery& query = prepared(statement);
     const Finished finished(query);
     start(query, values);
@@ -105,7 +105,7 @@ QSqlQuery& SqlConnection::prepared(const QString& statement) {
     return *m_statements.insert(statement, query);
 }
 
-void SqlConnection::start(QSqlQuery& query, const QVariantList& values) const {
+void SqlConnection::start(QSqlQuery& query, const Values& values) const {
     for (int i = 0; i < values.size(); ++i) {
         query.bindValue(i, values.at(i));
     }
