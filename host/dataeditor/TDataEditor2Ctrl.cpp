@@ -3,9 +3,9 @@
 #include "DatasetWriter.h"
 #include "MessageLoggerInterface.h"
 #include "ProjectMgrInterface.h"
+#include "StoredName.h"
 #include "VKError.h"
 
-#include <algorithm>
 #include <exception>
 
 namespace {
@@ -18,14 +18,6 @@ QString reasonOf(const std::exception& error) {
 TechDB::TDatabase* projectDatabase() {
     const ProjectMgrInterface* const project = ProjectMgrInterface::returnMe();
     return project == nullptr ? nullptr : project->projectDatabase();
-}
-
-/// Cells of spreadsheets, which name samples, may hold line breaks and end in blanks.
-QString tidied(QString name) {
-    std::replace_if(
-        name.begin(), name.end(), [](QChar letter) { return letter.category() == QChar::Other_Control; },
-        QLatin1Char(' '));
-    return name.trimmed();
 }
 
 } // namespace
@@ -72,7 +64,7 @@ void TDataEditor2Ctrl::store(const QAbstractItemModel* model, const QString& dat
         throw VKError(tr("No project is open.", "Aucun projet n'est ouvert."), {},
                       tr("Open or make one first.", "Ouvrez ou créez-en un d'abord."));
     }
-    writerFor(*target).write(*model, dataset, tidied(sample), role);
+    writerFor(*target).write(*model, dataset, TechDB::tidiedName(sample), role);
 }
 
 DatasetWriter& TDataEditor2Ctrl::writerFor(TechDB::TDatabase& database) {

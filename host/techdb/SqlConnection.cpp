@@ -25,9 +25,9 @@ private:
 
 } // namespace
 
-SqlConnection::SqlConnection(const QString& place, std::unique_ptr<SqlDialect> dialect)
-    : m_place(place), m_dialect(std::move(dialect)),
-      m_name(QStringLiteral("project-") + QUuid::createUuid().toString(QUuid::WithoutBraces)),
+SqlConnection::SqlConnection(DatabaseKind kind, const QString& place, std::unique_ptr<SqlDialect> dialect)
+    : m_kind(kind), m_place(place), m_dialect(std::move(dialect)),
+      m_name(QStringLiteral("techdb-") + QUuid::createUuid().toString(QUuid::WithoutBraces)),
       m_database(QSqlDatabase::addDatabase(m_dialect->driver(), m_name)) {
     m_dialect->aim(m_database, m_place);
     try {
@@ -115,7 +115,7 @@ void SqlConnection::start(QSqlQuery& query, const Values& values) const {
 }
 
 void SqlConnection::fail(const QSqlError& error) const {
-    throw SqlError(m_dialect->failureOf(error), error, m_place);
+    throw SqlError(m_dialect->failureOf(error), error, m_kind, m_place);
 }
 
 } // namespace TechDB

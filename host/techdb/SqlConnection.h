@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DatabaseKind.h"
 #include "SqlDialect.h"
 
 #include <QHash>
@@ -21,11 +22,12 @@ public:
     using RowReader = std::function<void(const QSqlQuery& row)>;
 
     /// Opens an existing database and creates nothing.
-    SqlConnection(const QString& place, std::unique_ptr<SqlDialect> dialect);
+    SqlConnection(DatabaseKind kind, const QString& place, std::unique_ptr<SqlDialect> dialect);
     ~SqlConnection();
     SqlConnection(const SqlConnection&) = delete;
     SqlConnection& operator=(const SqlConnection&) = delete;
 
+    DatabaseKind kind() const { return m_kind; }
     const QString& place() const { return m_place; }
     const SqlDialect& dialect() const { return *m_dialect; }
     bool inTransaction() const { return m_openTransactions > 0; }
@@ -49,6 +51,7 @@ private:
     void start(QSqlQuery& query, const Values& values) const;
     [[noreturn]] void fail(const QSqlError& error) const;
 
+    DatabaseKind m_kind;
     QString m_place;
     std::unique_ptr<SqlDialect> m_dialect;
     QString m_name;

@@ -46,15 +46,14 @@ void SqlTransaction::commit() {
 
 void SqlTransaction::checkNotGivenUp() const {
     if (m_connection.m_givenUp) {
-        throw VKError(
-            QCoreApplication::translate(
-                "TechDB::SqlTransaction",
-                "The project <b>%1</b> took back all that was being written, after a failure before.",
-                "Le projet <b>%1</b> a annulé toute l'écriture en cours, suite à un échec précédent.")
-                .arg(m_connection.place().toHtmlEscaped()),
-            {},
-            QCoreApplication::translate("TechDB::SqlTransaction", "Remove its cause and try again.",
-                                        "Supprimez-en la cause et essayez à nouveau."));
+        throw VKError(QCoreApplication::translate(
+                          "TechDB::SqlTransaction",
+                          "The %2 <b>%1</b> took back all that was being written, after a failure before.",
+                          "Le %2 <b>%1</b> a annulé toute l'écriture en cours, suite à un échec précédent.")
+                          .arg(m_connection.place().toHtmlEscaped(), nameOf(m_connection.kind())),
+                      {},
+                      QCoreApplication::translate("TechDB::SqlTransaction", "Remove its cause and try again.",
+                                                  "Supprimez-en la cause et essayez à nouveau."));
     }
 }
 

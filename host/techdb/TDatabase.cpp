@@ -1,11 +1,11 @@
 #include "TDatabase.h"
 
 #include "AnalysisStore.h"
+#include "DatabaseFile.h"
 #include "DatabaseRegistry.h"
 #include "DatasetStore.h"
 #include "MessageLoggerInterface.h"
 #include "ObjectPool.h"
-#include "ProjectFile.h"
 #include "ReadAhead.h"
 #include "SampleStore.h"
 #include "SqlConnection.h"
@@ -26,16 +26,16 @@ constexpr int manyKeys = 32;
 } // namespace
 
 std::unique_ptr<TDatabase> TDatabase::create(const QString& path) {
-    return std::unique_ptr<TDatabase>(new TDatabase(ProjectFile::create(path, ProjectSchema::current())));
+    return std::unique_ptr<TDatabase>(new TDatabase(DatabaseFile::create(path, ProjectSchema::current())));
 }
 
 std::unique_ptr<TDatabase> TDatabase::open(const QString& path, const ProjectSchema& schema) {
-    return std::unique_ptr<TDatabase>(new TDatabase(ProjectFile::open(path, schema)));
+    return std::unique_ptr<TDatabase>(new TDatabase(DatabaseFile::open(path, schema)));
 }
 
 TDatabase::TDatabase(std::unique_ptr<SqlConnection> connection)
     : m_connection(std::move(connection)), m_objects(std::make_unique<ObjectPool>(this)),
-      m_projectId(ProjectSchema::projectIdOf(*m_connection)) {
+      m_projectId(ProjectSchema::current().idOf(*m_connection)) {
     qRegisterMetaType<ObjectChanges>("TechDB::ObjectChanges"); // the signal may be queued
     DatabaseRegistry::add(this);
 }
@@ -214,7 +214,7 @@ SampleTable TDatabase::sampleTable(qint64 sample) const {
 }
 
 void TDatabase::backupTo(const QString& path) const {
-    ProjectFile::copy(*m_connection, path);
+    DatabaseFile::copy(*m_connection, path);
 }
 
 QStringList TDatabase::problems() const {
