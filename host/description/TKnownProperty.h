@@ -20,4 +20,10 @@ struct TKnownProperty {
     /// Other names that tables give it, in any language, as `TKnownProperty::plain` writes them.
     QStringList aliases;
     Family family = Family::General;
+
+    /// A name as it is compared, whoever wrote it: lower case, without accents, a delta as "d", small raised
+    /// and lowered digits as digits, without blanks and punctuation. A plus behind a name and a slash between
+    /// two stay, for they tell names apart: "C₆ +" gives "c6+", "δ¹³C-CH₄ (‰)" gives "d13cch4", "S1 / TOC"
+    /// gives "s1/toc".
+    static QString plain(const QString& name);
 };

@@ -7,9 +7,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-#include <cmath>
-
 namespace TechDB {
 
 namespace {
@@ -24,9 +21,24 @@ QString datasetQuery(const char* condition) {
            QLatin1String(condition);
 }
 
-DatasetInfo datasetOf(const QSqlQuery& row) {
+DatasetInfo datasetFrom(const QSqlQuery& row) {
     return {row.value(0).toLongLong(), row.value(1).toString(), StoredInstant::read(row.value(2)),
             row.value(3).toInt()};
+}
+
+/// A sample's positions run from 0 without gaps: the last one tells their number, without counting them.
+QString sampleQuery(const char* condition) {
+    return QStringLiteral("SELECT s.id, s.name,"
+                          " (SELECT coalesce(max(r.position) + 1, 0) FROM sample_rows r"
+                          " WHERE r.sample_id = s.id),"
+                          " (SELECT coalesce(max(c.position) + 1, 0) FROM sample_columns c"
+                          " WHERE c.sample_id = s.id)"
+                          " FROM samples s WHERE s.dataset_id = ? ") +
+           QLatin1String(condition);
+}
+
+SampleInfo sampleFrom(const QSqlQuery& row) {
+    return {row.value(0).toLongLong(), row.value(1).toString(), row.value(2).toInt(), row.value(3).toInt()};
 }
 
 [[noreturn]] void throwTaken(const QString& text, const QString& name) {
@@ -45,61 +57,26 @@ DatasetInfo datasetOf(const QSqlQuery& row) {
                              "L'ensemble de données n'est plus dans le projet."));
 }
 
-[[noreturn]] void throwDamaged() {
-    throw VKError(
-        translated("The stored sample can't be read: its rows, columns and values don't fit together.",
-                   "L'échantillon enregistré est illisible : lignes, colonnes et valeurs ne vont pas "
-                   "ensemble."),
-        {}, translated("Import the dataset again.", "Importez à nouveau l'ensemble de données."));
-}
-
-qint64 cellCount(const QStringList& rows, const QStringList& columns) {
-    return qint64{rows.size()} * columns.size();
-}
-
-void checkTable(const QString& sample, const SampleTable& table) {
-    const qint64 cells = cellCount(table.rowNames, table.columnNames);
-    const bool numbersFinite = std::all_of(table.cells.begin(), table.cells.end(), [](const QVariant& cell) {
-        return cell.type() != QVariant::Double || std::isfinite(cell.toDouble());
-    });
-    if (cells == table.cells.size() && cells <= DatasetStore::maximumCells && numbersFinite) {
-        return;
-    }
-    throw VKError(
-        translated("The sample <b>%1</b> was not stored: it has %2 rows, %3 columns and %4 values, %5.",
-                   "L'échantillon <b>%1</b> n'a pas été enregistré : il a %2 lignes, %3 colonnes et %4 "
-                   "valeurs, %5.")
-            .arg(sample.toHtmlEscaped())
-            .arg(table.rowNames.size())
-            .arg(table.columnNames.size())
-            .arg(table.cells.size())
-            .arg(numbersFinite
-                     ? translated("which don't fit together or are too many",
-                                  "qui ne vont pas ensemble ou sont trop nombreux")
-                     : translated("one of them no finite number", "dont une n'est pas un nombre fini")),
-        {}, translated("Check the file that it came from.", "Vérifiez le fichier d'origine."));
-}
-
 } // namespace
 
 QVector<DatasetInfo> DatasetStore::all() const {
     QVector<DatasetInfo> list;
     m_connection.select(datasetQuery("ORDER BY d.id"), {},
-                        [&list](const QSqlQuery& row) { list.append(datasetOf(row)); });
+                        [&list](const QSqlQuery& row) { list.append(datasetFrom(row)); });
     return list;
 }
 
 std::optional<DatasetInfo> DatasetStore::byName(const QString& name) const {
     std::optional<DatasetInfo> found;
     m_connection.select(datasetQuery("WHERE d.name = ?"), {SqlConnection::text(name)},
-                        [&found](const QSqlQuery& row) { found = datasetOf(row); });
+                        [&found](const QSqlQuery& row) { found = datasetFrom(row); });
     return found;
 }
 
 std::optional<DatasetInfo> DatasetStore::byKey(qint64 key) const {
     std::optional<DatasetInfo> found;
     m_connection.select(datasetQuery("WHERE d.id = ?"), {key},
-                        [&found](const QSqlQuery& row) { found = datasetOf(row); });
+                        [&found](const QSqlQuery& row) { found = datasetFrom(row); });
     return found;
 }
 
@@ -131,6 +108,14 @@ void DatasetStore::rename(qint64 key, const QString& name) {
     }
 }
 
+void DatasetStore::empty(qint64 key) {
+    if (m_connection.execute(QStringLiteral("UPDATE datasets SET created = ? WHERE id = ?"),
+                             {StoredInstant::now(), key}) == 0) {
+        throwGone();
+    }
+    m_connection.execute(QStringLiteral("DELETE FROM samples WHERE dataset_id = ?"), {key});
+}
+
 void DatasetStore::remove(qint64 key) {
     if (m_connection.execute(QStringLiteral("DELETE FROM datasets WHERE id = ?"), {key}) == 0) {
         throwGone();
@@ -139,24 +124,34 @@ void DatasetStore::remove(qint64 key) {
 
 QVector<SampleInfo> DatasetStore::samples(qint64 dataset) const {
     QVector<SampleInfo> list;
-    m_connection.select(QStringLiteral("SELECT s.id, s.name,"
-                                       " (SELECT count(*) FROM sample_rows r WHERE r.sample_id = s.id),"
-                                       " (SELECT count(*) FROM sample_columns c WHERE c.sample_id = s.id)"
-                                       " FROM samples s WHERE s.dataset_id = ? ORDER BY s.id"),
-                        {dataset}, [&list](const QSqlQuery& row) {
-                            list.append({row.value(0).toLongLong(), row.value(1).toString(),
-                                         row.value(2).toInt(), row.value(3).toInt()});
-                        });
+    m_connection.select(sampleQuery("ORDER BY s.id"), {dataset},
+                        [&list](const QSqlQuery& row) { list.append(sampleFrom(row)); });
     return list;
 }
 
-qint64 DatasetStore::addSample(qint64 dataset, const QString& name, const SampleTable& table) {
+std::optional<SampleInfo> DatasetStore::sampleByName(qint64 dataset, const QString& name) const {
+    std::optional<SampleInfo> found;
+    m_connection.select(sampleQuery("AND s.name = ?"), {dataset, SqlConnection::text(name)},
+                        [&found](const QSqlQuery& row) { found = sampleFrom(row); });
+    return found;
+}
+
+qint64 DatasetStore::datasetOf(qint64 sample) const {
+    qint64 dataset = 0;
+    m_connection.select(QStringLiteral("SELECT dataset_id FROM samples WHERE id = ?"), {sample},
+                        [&dataset](const QSqlQuery& row) { dataset = row.value(0).toLongLong(); });
+    if (dataset == 0) {
+        throw VKError(translated("The sample is no longer in the project.",
+                                 "L'échantillon n'est plus dans le projet."));
+    }
+    return dataset;
+}
+
+qint64 DatasetStore::addSample(qint64 dataset, const QString& name) {
     checkName(name);
-    checkTable(name, table);
-    qint64 sample = 0;
     try {
-        sample = m_connection.insert(QStringLiteral("INSERT INTO samples (dataset_id, name) VALUES (?, ?)"),
-                                     {dataset, name});
+        return m_connection.insert(QStringLiteral("INSERT INTO samples (dataset_id, name) VALUES (?, ?)"),
+                                   {dataset, name});
     } catch (const SqlError& error) {
         if (error.failure() == SqlFailure::NameTaken) {
             throwTaken(translated("The dataset holds a sample named <b>%1</b> already.",
@@ -165,98 +160,6 @@ qint64 DatasetStore::addSample(qint64 dataset, const QString& name, const Sample
         }
         throw;
     }
-    addNames(QStringLiteral("INSERT INTO sample_rows (sample_id, position, name) VALUES (?, ?, ?)"), sample,
-             table.rowNames);
-    addNames(QStringLiteral("INSERT INTO sample_columns (sample_id, position, name) VALUES (?, ?, ?)"),
-             sample, table.columnNames);
-    addProperties(sample, table.properties);
-    addValues(sample, table);
-    return sample;
-}
-
-void DatasetStore::addNames(const QString& statement, qint64 sample, const QStringList& names) {
-    for (int position = 0; position < names.size(); ++position) {
-        m_connection.execute(statement, {sample, position, SqlConnection::text(names.at(position))});
-    }
-}
-
-void DatasetStore::addProperties(qint64 sample, const QList<TProperty>& properties) {
-    for (int position = 0; position < properties.size(); ++position) {
-        const TProperty& property = properties.at(position);
-        m_connection.execute(
-            QStringLiteral("INSERT INTO sample_properties (sample_id, position, name, value, unit, comment)"
-                           " VALUES (?, ?, ?, ?, ?, ?)"),
-            {sample, position, SqlConnection::text(property.name()), SqlConnection::text(property.value()),
-             SqlConnection::text(property.unit()), SqlConnection::text(property.comment())});
-    }
-}
-
-void DatasetStore::addValues(qint64 sample, const SampleTable& table) {
-    const int columns = table.columnNames.size();
-    for (int place = 0; place < table.cells.size(); ++place) {
-        const QVariant& cell = table.cells.at(place);
-        if (!cell.isValid()) {
-            continue;
-        }
-        const bool number = cell.type() == QVariant::Double;
-        m_connection.execute(
-            QStringLiteral("INSERT INTO sample_values"
-                           " (sample_id, row_position, column_position, number_value, text_value)"
-                           " VALUES (?, ?, ?, ?, ?)"),
-            {sample, place / columns, place % columns, number ? cell : QVariant(QVariant::Double),
-             number ? QVariant(QVariant::String) : SqlConnection::text(cell.toString())});
-    }
-}
-
-SampleTable DatasetStore::sampleTable(qint64 sample) const {
-    SampleTable table;
-    table.rowNames =
-        names(QStringLiteral("SELECT position, name FROM sample_rows WHERE sample_id = ? ORDER BY position"),
-              sample);
-    table.columnNames = names(
-        QStringLiteral("SELECT position, name FROM sample_columns WHERE sample_id = ? ORDER BY position"),
-        sample);
-    m_connection.select(QStringLiteral("SELECT name, value, unit, comment FROM sample_properties"
-                                       " WHERE sample_id = ? ORDER BY position"),
-                        {sample}, [&table](const QSqlQuery& row) {
-                            table.properties.append(
-                                TProperty(row.value(0).toString(), row.value(1).toString(),
-                                          row.value(2).toString(), row.value(3).toString()));
-                        });
-    readValues(sample, table);
-    return table;
-}
-
-void DatasetStore::readValues(qint64 sample, SampleTable& table) const {
-    const int rows = table.rowNames.size();
-    const int columns = table.columnNames.size();
-    if (cellCount(table.rowNames, table.columnNames) > maximumCells) {
-        throwDamaged();
-    }
-    table.cells.resize(rows * columns);
-    m_connection.select(QStringLiteral("SELECT row_position, column_position, number_value, text_value"
-                                       " FROM sample_values WHERE sample_id = ?"),
-                        {sample}, [&](const QSqlQuery& found) {
-                            const qint64 row = found.value(0).toLongLong();
-                            const qint64 column = found.value(1).toLongLong();
-                            if (row < 0 || row >= rows || column < 0 || column >= columns) {
-                                throwDamaged();
-                            }
-                            table.cells[static_cast<int>(row * columns + column)] =
-                                found.isNull(2) ? QVariant(found.value(3).toString())
-                                                : QVariant(found.value(2).toDouble());
-                        });
-}
-
-QStringList DatasetStore::names(const QString& statement, qint64 sample) const {
-    QStringList list;
-    m_connection.select(statement, {sample}, [&list](const QSqlQuery& row) {
-        if (row.value(0).toLongLong() != list.size()) {
-            throwDamaged();
-        }
-        list.append(row.value(1).toString());
-    });
-    return list;
 }
 
 } // namespace TechDB

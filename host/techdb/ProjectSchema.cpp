@@ -1,14 +1,5 @@
 #include "ProjectSchema.h"
 
-#include "SqlConnection.h"
-#include "SqlError.h"
-
-#include <QCoreApplication>
-#include <QSqlError>
-#include <QUuid>
-
-#include <utility>
-
 namespace TechDB {
 
 namespace {
@@ -17,11 +8,6 @@ namespace {
 // analyses reads no curve. A cell is a number or a text; an empty cell has no row.
 QStringList firstVersion() {
     return {
-        QStringLiteral("CREATE TABLE project ("
-                       " only_row INTEGER PRIMARY KEY CHECK (only_row = 1),"
-                       " id TEXT NOT NULL,"
-                       " schema_version INTEGER NOT NULL,"
-                       " created TEXT NOT NULL)"),
         QStringLiteral("CREATE TABLE analyses ("
                        " id {identity},"
                        " name TEXT NOT NULL UNIQUE,"
@@ -93,72 +79,14 @@ QStringList probes() {
     };
 }
 
-[[noreturn]] void failAsForeign(const SqlConnection& connection) {
-    throw SqlError(SqlFailure::NotADatabase, QSqlError(), connection.place());
-}
-
 } // namespace
 
-ProjectSchema::ProjectSchema(QStringList creation, QVector<QStringList> migrations)
-    : m_creation(std::move(creation)), m_migrations(std::move(migrations)) {}
+ProjectSchema::ProjectSchema(const QStringList& creation, const QVector<QStringList>& migrations)
+    : DatabaseSchema(DatabaseKind::Project, creation, migrations, probes()) {}
 
 const ProjectSchema& ProjectSchema::current() {
     static const ProjectSchema schema(firstVersion(), {});
     return schema;
-}
-
-void ProjectSchema::create(SqlConnection& connection, const QString& projectId,
-                           const QString& instant) const {
-    for (const QString& statement : m_creation) {
-        connection.run(statement);
-    }
-    connection.run(
-        QStringLiteral("INSERT INTO project (only_row, id, schema_version, created) VALUES (1, ?, ?, ?)"),
-        {projectId, version(), instant});
-}
-
-int ProjectSchema::versionOf(SqlConnection& connection) {
-    QVariant found;
-    try {
-        connection.select(QStringLiteral("SELECT schema_version FROM project WHERE only_row = 1"), {},
-                          [&found](const QSqlQuery& row) { found = row.value(0); });
-    } catch (const SqlError& error) {
-        // A database of somebody else's has no such table; any other failure keeps its own words.
-        if (error.failure() != SqlFailure::Other) {
-            throw;
-        }
-        failAsForeign(connection);
-    }
-    const int stored = found.toInt();
-    if (stored < 1) {
-        failAsForeign(connection);
-    }
-    return stored;
-}
-
-QString ProjectSchema::projectIdOf(SqlConnection& connection) {
-    QString id;
-    connection.select(QStringLiteral("SELECT id FROM project WHERE only_row = 1"), {},
-                      [&id](const QSqlQuery& row) { id = row.value(0).toString(); });
-    if (QUuid(id).isNull()) {
-        failAsForeign(connection);
-    }
-    return id;
-}
-
-void ProjectSchema::migrate(SqlConnection& connection, int from) const {
-    for (int step = from; step < version(); ++step) {
-        for (const QString& statement : m_migrations.at(step - 1)) {
-            connection.run(statement);
-        }
-    }
-    connection.run(QStringLiteral("UPDATE project SET schema_version = ? WHERE only_row = 1"), {version()});
-}
-
-void ProjectSchema::probe(SqlConnection& connection) {
-    for (const QString& statement : probes()) {
-        connection.run(statement);
-    }
 }
 
 } // namespace TechDB

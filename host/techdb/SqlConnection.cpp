@@ -25,9 +25,9 @@ private:
 
 } // namespace
 
-SqlConnection::SqlConnection(const QString& place, std::unique_ptr<SqlDialect> dialect)
-    : m_place(place), m_dialect(std::move(dialect)),
-      m_name(QStringLiteral("project-") + QUuid::createUuid().toString(QUuid::WithoutBraces)),
+SqlConnection::SqlConnection(DatabaseKind kind, const QString& place, std::unique_ptr<SqlDialect> dialect)
+    : m_kind(kind), m_place(place), m_dialect(std::move(dialect)),
+      m_name(QStringLiteral("techdb-") + QUuid::createUuid().toString(QUuid::WithoutBraces)),
       m_database(QSqlDatabase::addDatabase(m_dialect->driver(), m_name)) {
     m_dialect->aim(m_database, m_place);
     try {
@@ -52,7 +52,7 @@ SqlConnection::~SqlConnection() {
     QSqlDatabase::removeDatabase(m_name);
 }
 
-void SqlConnection::run(const QString& statement, const QVariantList& values) {
+void SqlConnection::run(const QString& statement, const Values& values) {
     QSqlQuery query(m_database);
     query.setForwardOnly(true);
     if (!query.prepare(m_dialect->adapted(statement))) {
@@ -61,21 +61,21 @@ void SqlConnection::run(const QString& statement, const QVariantList& values) {
     start(query, values);
 }
 
-int SqlConnection::execute(const QString& statement, const QVariantList& values) {
+int SqlConnection::execute(const QString& statement, const Values& values) {
     QSqlQuery& query = prepared(statement);
     const Finished finished(query);
     start(query, values);
     return query.numRowsAffected();
 }
 
-qint64 SqlConnection::insert(const QString& statement, const QVariantList& values) {
+qint64 SqlConnection::insert(const QString& statement, const Values& values) {
     QSqlQuery& query = prepared(statement);
     const Finished finished(query);
     start(query, values);
     return query.lastInsertId().toLongLong();
 }
 
-void SqlConnection::select(const QString& statement, const QVariantList& values, const RowReader& reader) {
+void SqlConnection::select(const QString& statement, const Values& values, const RowReader& reader) {
     QSqlQuery& query = prepared(statement);
     const Finished finished(query);
     start(query, values);
@@ -105,7 +105,7 @@ QSqlQuery& SqlConnection::prepared(const QString& statement) {
     return *m_statements.insert(statement, query);
 }
 
-void SqlConnection::start(QSqlQuery& query, const QVariantList& values) const {
+void SqlConnection::start(QSqlQuery& query, const Values& values) const {
     for (int i = 0; i < values.size(); ++i) {
         query.bindValue(i, values.at(i));
     }
@@ -115,7 +115,7 @@ void SqlConnection::start(QSqlQuery& query, const QVariantList& values) const {
 }
 
 void SqlConnection::fail(const QSqlError& error) const {
-    throw SqlError(m_dialect->failureOf(error), error, m_place);
+    throw SqlError(m_dialect->failureOf(error), error, m_kind, m_place);
 }
 
 } // namespace TechDB

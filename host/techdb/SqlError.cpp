@@ -14,33 +14,30 @@ QString translated(const char* english, const char* french) {
 QString whatHappened(SqlFailure failure) {
     switch (failure) {
     case SqlFailure::Busy:
-        return translated("The project <b>%1</b> is being written by another window.",
-                          "Le projet <b>%1</b> est en cours d'écriture par une autre fenêtre.");
+        return translated("The %2 <b>%1</b> is being written by another window.",
+                          "Le %2 <b>%1</b> est en cours d'écriture par une autre fenêtre.");
     case SqlFailure::ReadOnly:
-        return translated("The project <b>%1</b> can't be written.",
-                          "Le projet <b>%1</b> ne peut pas être écrit.");
+        return translated("The %2 <b>%1</b> can't be written.", "Le %2 <b>%1</b> ne peut pas être écrit.");
     case SqlFailure::Full:
-        return translated("The disk of the project <b>%1</b> is full; nothing was written.",
-                          "Le disque du projet <b>%1</b> est plein ; rien n'a été écrit.");
+        return translated("The disk of the %2 <b>%1</b> is full; nothing was written.",
+                          "Le disque du %2 <b>%1</b> est plein ; rien n'a été écrit.");
     case SqlFailure::Damaged:
-        return translated("The project <b>%1</b> is damaged.", "Le projet <b>%1</b> est endommagé.");
+        return translated("The %2 <b>%1</b> is damaged.", "Le %2 <b>%1</b> est endommagé.");
     case SqlFailure::NotADatabase:
-        return translated("The file <b>%1</b> is not a project.",
-                          "Le fichier <b>%1</b> n'est pas un projet.");
+        return translated("The file <b>%1</b> is not a %2.", "Le fichier <b>%1</b> n'est pas un %2.");
     case SqlFailure::CannotOpen:
-        return translated("The project <b>%1</b> can't be opened.",
-                          "Le projet <b>%1</b> ne peut pas être ouvert.");
+        return translated("The %2 <b>%1</b> can't be opened.", "Le %2 <b>%1</b> ne peut pas être ouvert.");
     case SqlFailure::NameTaken:
-        return translated("The project <b>%1</b> holds that name already.",
-                          "Le projet <b>%1</b> contient déjà ce nom.");
+        return translated("The %2 <b>%1</b> holds that name already.",
+                          "Le %2 <b>%1</b> contient déjà ce nom.");
     case SqlFailure::Other:
         break;
     }
-    return translated("The project <b>%1</b> could not be read or written.",
-                      "Le projet <b>%1</b> n'a pas pu être lu ou écrit.");
+    return translated("The %2 <b>%1</b> could not be read or written.",
+                      "Le %2 <b>%1</b> n'a pas pu être lu ou écrit.");
 }
 
-QString whatToDo(SqlFailure failure) {
+QString whatToDo(SqlFailure failure, DatabaseKind kind) {
     switch (failure) {
     case SqlFailure::Busy:
         return translated("Wait until it is done and try again.",
@@ -54,8 +51,9 @@ QString whatToDo(SqlFailure failure) {
     case SqlFailure::Full:
         return translated("Free some space and try again.", "Libérez de la place et essayez à nouveau.");
     case SqlFailure::NotADatabase:
-        return translated("Choose a file that was saved as a project.",
-                          "Choisissez un fichier enregistré comme projet.");
+        return translated("Choose a file that was saved as a %1.",
+                          "Choisissez un fichier enregistré comme %1.")
+            .arg(nameOf(kind));
     case SqlFailure::NameTaken:
         return translated("Choose another name.", "Choisissez un autre nom.");
     case SqlFailure::Damaged:
@@ -73,8 +71,9 @@ QString whereItHappened(const QSqlError& cause) {
 
 } // namespace
 
-SqlError::SqlError(SqlFailure failure, const QSqlError& cause, const QString& place)
-    : VKError(whatHappened(failure).arg(place.toHtmlEscaped()), whereItHappened(cause), whatToDo(failure)),
+SqlError::SqlError(SqlFailure failure, const QSqlError& cause, DatabaseKind kind, const QString& place)
+    : VKError(whatHappened(failure).arg(place.toHtmlEscaped(), nameOf(kind)), whereItHappened(cause),
+              whatToDo(failure, kind)),
       m_failure(failure) {}
 
 SqlError::~SqlError() = default;

@@ -3,6 +3,8 @@
 #include "SqlConnection.h"
 #include "VKError.h"
 
+#include <QCoreApplication>
+
 namespace TechDB {
 
 namespace {
@@ -15,7 +17,13 @@ QString savepoint(const char* statement, int level) {
 
 SqlTransaction::SqlTransaction(SqlConnection& connection)
     : m_connection(connection), m_level(connection.m_openTransactions) {
-    m_connection.run(m_level == 0 ? m_connection.dialect().beginWriting() : savepoint("SAVEPOINT", m_level));
+    if (m_level == 0) {
+        m_connection.run(m_connection.dialect().beginWriting());
+        m_connection.m_givenUp = false;
+    } else {
+        checkNotGivenUp();
+        m_connection.execute(savepoint("SAVEPOINT", m_level), {});
+    }
     ++m_connection.m_openTransactions;
 }
 
@@ -26,9 +34,27 @@ SqlTransaction::~SqlTransaction() {
 }
 
 void SqlTransaction::commit() {
-    m_connection.run(m_level == 0 ? QStringLiteral("COMMIT") : savepoint("RELEASE SAVEPOINT", m_level));
+    checkNotGivenUp();
+    if (m_level == 0) {
+        m_connection.run(QStringLiteral("COMMIT"));
+    } else {
+        m_connection.execute(savepoint("RELEASE SAVEPOINT", m_level), {});
+    }
     m_open = false;
     --m_connection.m_openTransactions;
+}
+
+void SqlTransaction::checkNotGivenUp() const {
+    if (m_connection.m_givenUp) {
+        throw VKError(QCoreApplication::translate(
+                          "TechDB::SqlTransaction",
+                          "The %2 <b>%1</b> took back all that was being written, after a failure before.",
+                          "Le %2 <b>%1</b> a annulé toute l'écriture en cours, suite à un échec précédent.")
+                          .arg(m_connection.place().toHtmlEscaped(), nameOf(m_connection.kind())),
+                      {},
+                      QCoreApplication::translate("TechDB::SqlTransaction", "Remove its cause and try again.",
+                                                  "Supprimez-en la cause et essayez à nouveau."));
+    }
 }
 
 void SqlTransaction::rollBack() noexcept {
@@ -39,11 +65,12 @@ void SqlTransaction::rollBack() noexcept {
             m_connection.run(QStringLiteral("ROLLBACK"));
             return;
         }
-        m_connection.run(savepoint("ROLLBACK TO SAVEPOINT", m_level));
-        m_connection.run(savepoint("RELEASE SAVEPOINT", m_level));
+        m_connection.execute(savepoint("ROLLBACK TO SAVEPOINT", m_level), {});
+        m_connection.execute(savepoint("RELEASE SAVEPOINT", m_level), {});
     } catch (const VKError&) {
-        // The engine has rolled back by itself, as it does when the disk is full: there is nothing to undo,
-        // and the failure that led here is on its way to the user.
+        // The engine has rolled back by itself: there is nothing to undo, and the failure that led here is on
+        // its way to the user.
+        m_connection.m_givenUp = true;
     }
 }
 

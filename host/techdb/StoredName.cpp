@@ -35,13 +35,20 @@ QString whyNoName(const QString& name) {
 
 } // namespace
 
+QString tidiedName(QString name) {
+    std::replace_if(
+        name.begin(), name.end(), [](QChar letter) { return letter.category() == QChar::Other_Control; },
+        QLatin1Char(' '));
+    return name.trimmed();
+}
+
 void checkName(const QString& name) {
     const QString reason = whyNoName(name);
     if (reason.isEmpty()) {
         return;
     }
-    throw VKError(QCoreApplication::translate("TechDB::StoredName", "<b>%1</b> can't be a name in a project:",
-                                              "<b>%1</b> ne peut pas être un nom dans un projet :")
+    throw VKError(QCoreApplication::translate("TechDB::StoredName", "<b>%1</b> can't be a name:",
+                                              "<b>%1</b> ne peut pas être un nom :")
                       .arg(name.left(maximumNameLength).toHtmlEscaped()),
                   reason,
                   QCoreApplication::translate("TechDB::StoredName", "Choose another name.",

@@ -9,6 +9,10 @@ namespace TechDB {
 /// read as it was written.
 void checkName(const QString& name);
 
+/// A name as a cell of a spreadsheet holds it, made fit for storing: blanks at its ends don't count, and line
+/// breaks and other control characters count as blanks.
+QString tidiedName(QString name);
+
 constexpr int maximumNameLength = 255;
 
 } // namespace TechDB

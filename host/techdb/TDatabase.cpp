@@ -1,12 +1,13 @@
 #include "TDatabase.h"
 
 #include "AnalysisStore.h"
+#include "DatabaseFile.h"
 #include "DatabaseRegistry.h"
 #include "DatasetStore.h"
 #include "MessageLoggerInterface.h"
 #include "ObjectPool.h"
-#include "ProjectFile.h"
 #include "ReadAhead.h"
+#include "SampleStore.h"
 #include "SqlConnection.h"
 #include "Transaction.h"
 #include "VKError.h"
@@ -25,16 +26,16 @@ constexpr int manyKeys = 32;
 } // namespace
 
 std::unique_ptr<TDatabase> TDatabase::create(const QString& path) {
-    return std::unique_ptr<TDatabase>(new TDatabase(ProjectFile::create(path, ProjectSchema::current())));
+    return std::unique_ptr<TDatabase>(new TDatabase(DatabaseFile::create(path, ProjectSchema::current())));
 }
 
 std::unique_ptr<TDatabase> TDatabase::open(const QString& path, const ProjectSchema& schema) {
-    return std::unique_ptr<TDatabase>(new TDatabase(ProjectFile::open(path, schema)));
+    return std::unique_ptr<TDatabase>(new TDatabase(DatabaseFile::open(path, schema)));
 }
 
 TDatabase::TDatabase(std::unique_ptr<SqlConnection> connection)
     : m_connection(std::move(connection)), m_objects(std::make_unique<ObjectPool>(this)),
-      m_projectId(ProjectSchema::projectIdOf(*m_connection)) {
+      m_projectId(ProjectSchema::current().idOf(*m_connection)) {
     qRegisterMetaType<ObjectChanges>("TechDB::ObjectChanges"); // the signal may be queued
     DatabaseRegistry::add(this);
 }
@@ -167,6 +168,13 @@ void TDatabase::renameWell(qint64 key, const QString& name) {
     transaction.commit();
 }
 
+void TDatabase::emptyWell(qint64 key) {
+    Transaction transaction(*this);
+    DatasetStore(*m_connection).empty(key);
+    record(ObjectChange::Kind::Changed, VKObjectType::Well, key);
+    transaction.commit();
+}
+
 void TDatabase::removeWell(qint64 key) {
     Transaction transaction(*this);
     DatasetStore(*m_connection).remove(key);
@@ -178,20 +186,35 @@ QVector<SampleInfo> TDatabase::samples(qint64 well) const {
     return DatasetStore(*m_connection).samples(well);
 }
 
+std::optional<SampleInfo> TDatabase::findSample(qint64 well, const QString& name) const {
+    return DatasetStore(*m_connection).sampleByName(well, name);
+}
+
 qint64 TDatabase::addSample(qint64 well, const QString& name, const SampleTable& table) {
+    SampleStore::check(table);
     Transaction transaction(*this);
-    const qint64 key = DatasetStore(*m_connection).addSample(well, name, table);
+    const qint64 key = DatasetStore(*m_connection).addSample(well, name);
+    SampleStore(*m_connection).add(key, table);
     record(ObjectChange::Kind::Changed, VKObjectType::Well, well);
     transaction.commit();
     return key;
 }
 
+void TDatabase::addColumns(qint64 sample, const SampleTable& table) {
+    SampleStore::check(table);
+    Transaction transaction(*this);
+    const qint64 well = DatasetStore(*m_connection).datasetOf(sample);
+    SampleStore(*m_connection).addColumns(sample, table);
+    record(ObjectChange::Kind::Changed, VKObjectType::Well, well);
+    transaction.commit();
+}
+
 SampleTable TDatabase::sampleTable(qint64 sample) const {
-    return DatasetStore(*m_connection).sampleTable(sample);
+    return SampleStore(*m_connection).table(sample);
 }
 
 void TDatabase::backupTo(const QString& path) const {
-    ProjectFile::copy(*m_connection, path);
+    DatabaseFile::copy(*m_connection, path);
 }
 
 QStringList TDatabase::problems() const {
@@ -211,7 +234,13 @@ QStringList TDatabase::problems() const {
 }
 
 void TDatabase::record(ObjectChange::Kind kind, VKObjectType type, qint64 key, const QString& formerName) {
-    m_changes.append({{kind, type, key}, formerName});
+    // A dataset of ten thousand samples has changed once.
+    const bool repeated = !m_changes.isEmpty() && kind == ObjectChange::Kind::Changed &&
+                          m_changes.last().change.kind == kind && m_changes.last().change.type == type &&
+                          m_changes.last().change.key == key;
+    if (!repeated) {
+        m_changes.append({{kind, type, key}, formerName});
+    }
 }
 
 void TDatabase::announceChanges() {

@@ -10,6 +10,7 @@
 #include <QVector>
 
 #include <memory>
+#include <optional>
 
 class VKObject2Analysis;
 class VKObject2Well;
@@ -71,11 +72,17 @@ public:
     /// Makes an empty dataset.
     const VKObject2Well* addWell(const QString& name);
     void renameWell(qint64 key, const QString& name);
+    /// Takes all samples out of a dataset, which keeps its key, name and object; it counts as stored anew.
+    void emptyWell(qint64 key);
     void removeWell(qint64 key);
 
     QVector<SampleInfo> samples(qint64 well) const;
+    std::optional<SampleInfo> findSample(qint64 well, const QString& name) const;
     /// Stores a sample under a name that its dataset doesn't hold yet, and returns its key.
     qint64 addSample(qint64 well, const QString& name, const SampleTable& table);
+    /// Puts the columns of `table` behind those of a sample, which keeps all that it has: rows of one name
+    /// are one row, the second of a name goes to the second, and rows with new names come at the end.
+    void addColumns(qint64 sample, const SampleTable& table);
     SampleTable sampleTable(qint64 sample) const;
 
     /// Writes a whole, checked copy; what lies under the path is replaced once the copy is complete.

@@ -1,4 +1,4 @@
-#include "ProjectFile.h"
+#include "DatabaseFile.h"
 
 #include "MessageLoggerInterface.h"
 #include "SqlConnection.h"
@@ -17,30 +17,30 @@
 #include <filesystem>
 #include <system_error>
 
-namespace TechDB::ProjectFile {
+namespace TechDB::DatabaseFile {
 
 namespace {
 
 QString translated(const char* english, const char* french) {
-    return QCoreApplication::translate("TechDB::ProjectFile", english, french);
+    return QCoreApplication::translate("TechDB::DatabaseFile", english, french);
 }
 
 QString shown(const QString& path) {
     return QDir::toNativeSeparators(path).toHtmlEscaped();
 }
 
-std::unique_ptr<SqlConnection> connected(const QString& path) {
-    return std::make_unique<SqlConnection>(path, std::make_unique<SqliteDialect>());
+std::unique_ptr<SqlConnection> connected(DatabaseKind kind, const QString& path) {
+    return std::make_unique<SqlConnection>(kind, path, std::make_unique<SqliteDialect>());
 }
 
-void checkPlace(const QString& path) {
+void checkPlace(DatabaseKind kind, const QString& path) {
     const QFileInfo file(path);
     if (!file.isFile() || !file.isReadable()) {
-        throw SqlError(SqlFailure::CannotOpen, QSqlError(), path);
+        throw SqlError(SqlFailure::CannotOpen, QSqlError(), kind, path);
     }
     // The engine keeps its log beside the file.
     if (!file.isWritable() || !QFileInfo(file.absolutePath()).isWritable()) {
-        throw SqlError(SqlFailure::ReadOnly, QSqlError(), path);
+        throw SqlError(SqlFailure::ReadOnly, QSqlError(), kind, path);
     }
 }
 
@@ -51,16 +51,15 @@ void setUpOfOwn(SqlConnection& connection) {
     }
 }
 
-[[noreturn]] void throwNewer(const QString& path, int found, int known) {
-    throw VKError(
-        translated("The project <b>%1</b> was saved by a newer version of this program.",
-                   "Le projet <b>%1</b> a été enregistré par une version plus récente de ce programme.")
-            .arg(shown(path)),
-        translated("(Its format is %1, this version knows formats up to %2.)",
-                   "(Son format est %1, cette version connaît les formats jusqu'à %2.)")
-            .arg(found)
-            .arg(known),
-        translated("Open it with that version.", "Ouvrez-le avec cette version."));
+[[noreturn]] void throwNewer(const DatabaseSchema& schema, const QString& path, int found) {
+    throw VKError(translated("The %2 <b>%1</b> was saved by a newer version of this program.",
+                             "Le %2 <b>%1</b> a été enregistré par une version plus récente de ce programme.")
+                      .arg(shown(path), nameOf(schema.kind())),
+                  translated("(Its format is %1, this version knows formats up to %2.)",
+                             "(Son format est %1, cette version connaît les formats jusqu'à %2.)")
+                      .arg(found)
+                      .arg(schema.version()),
+                  translated("Open it with that version.", "Ouvrez-le avec cette version."));
 }
 
 /// A path beside the project that is free: lab.version-1.vornproj, lab.version-1-2.vornproj, ...
@@ -77,16 +76,16 @@ QString freeBackupPath(const QString& path, int version) {
 }
 
 /// Another window may have brought the project forward while this one waited to write.
-void migrateInTransaction(SqlConnection& connection, const ProjectSchema& schema) {
+void migrateInTransaction(SqlConnection& connection, const DatabaseSchema& schema) {
     SqlTransaction transaction(connection);
-    const int version = ProjectSchema::versionOf(connection);
+    const int version = schema.versionOf(connection);
     if (version < schema.version()) {
         schema.migrate(connection, version);
     }
     transaction.commit();
 }
 
-void migrate(SqlConnection& connection, const ProjectSchema& schema, int version) {
+void migrate(SqlConnection& connection, const DatabaseSchema& schema, int version) {
     const QString path = connection.place();
     const QString backup = freeBackupPath(path, version);
     copy(connection, backup);
@@ -94,22 +93,18 @@ void migrate(SqlConnection& connection, const ProjectSchema& schema, int version
         migrateInTransaction(connection, schema);
     } catch (const VKError& error) {
         throw VKError(
-            translated("The project <b>%1</b> could not be brought to the present format and is as it "
-                       "was.",
-                       "Le projet <b>%1</b> n'a pas pu être converti au format actuel et reste tel quel.")
-                .arg(shown(path)),
+            translated("The %2 <b>%1</b> could not be brought to the present format and is as it was.",
+                       "Le %2 <b>%1</b> n'a pas pu être converti au format actuel et reste tel quel.")
+                .arg(shown(path), nameOf(schema.kind())),
             error.text(),
             translated("A copy of it is <b>%1</b>.", "Une copie en est <b>%1</b>.").arg(shown(backup)));
     }
     MessageLoggerInterface::Information(
-        translated(
-            "The project <b>%1</b> was brought from format %2 to %3; the old one is kept as <b>%4</b>.",
-            "Le projet <b>%1</b> a été converti du format %2 au format %3 ; l'ancien est conservé sous "
-            "<b>%4</b>.")
-            .arg(shown(path))
-            .arg(version)
-            .arg(schema.version())
-            .arg(shown(backup)));
+        translated("The %5 <b>%1</b> was brought from format %2 to %3; the old one is kept as <b>%4</b>.",
+                   "Le %5 <b>%1</b> a été converti du format %2 au format %3 ; l'ancien est conservé sous "
+                   "<b>%4</b>.")
+            .arg(shown(path), QString::number(version), QString::number(schema.version()), shown(backup),
+                 nameOf(schema.kind())));
 }
 
 [[noreturn]] void throwNoCopy(const QString& target, const QString& reason) {
@@ -122,11 +117,13 @@ void migrate(SqlConnection& connection, const ProjectSchema& schema, int version
 void checkTarget(const SqlConnection& connection, const QString& target) {
     const QFileInfo file(target);
     if (connection.inTransaction()) {
-        throwNoCopy(target,
-                    translated("the project is being written.", "le projet est en cours d'écriture."));
+        throwNoCopy(target, translated("the %1 is being written.", "le %1 est en cours d'écriture.")
+                                .arg(nameOf(connection.kind())));
     }
     if (file.exists() && file.canonicalFilePath() == QFileInfo(connection.place()).canonicalFilePath()) {
-        throwNoCopy(target, translated("it is the project itself.", "c'est le projet lui-même."));
+        throwNoCopy(
+            target,
+            translated("it is the %1 itself.", "c'est le %1 lui-même.").arg(nameOf(connection.kind())));
     }
     // A log beside it would be taken for that of the new file.
     if (QFileInfo::exists(target + QLatin1String("-wal"))) {
@@ -136,9 +133,9 @@ void checkTarget(const SqlConnection& connection, const QString& target) {
     }
 }
 
-bool isWhole(const QString& path) {
+bool isWhole(DatabaseKind kind, const QString& path) {
     bool whole = false;
-    const std::unique_ptr<SqlConnection> connection = connected(path);
+    const std::unique_ptr<SqlConnection> connection = connected(kind, path);
     connection->select(connection->dialect().checkWhole(), {}, [&whole](const QSqlQuery& row) {
         whole = row.value(0).toString() == QLatin1String("ok");
     });
@@ -151,18 +148,18 @@ std::filesystem::path native(const QString& path) {
 
 } // namespace
 
-std::unique_ptr<SqlConnection> create(const QString& path, const ProjectSchema& schema) {
+std::unique_ptr<SqlConnection> create(const QString& path, const DatabaseSchema& schema) {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        throw VKError(translated("The project <b>%1</b> can't be created:",
-                                 "Le projet <b>%1</b> ne peut pas être créé :")
-                          .arg(shown(path)),
-                      file.errorString().toHtmlEscaped() + QLatin1Char('.'),
-                      translated("Choose another name or folder.", "Choisissez un autre nom ou dossier."));
+        throw VKError(
+            translated("The %2 <b>%1</b> can't be created:", "Le %2 <b>%1</b> ne peut pas être créé :")
+                .arg(shown(path), nameOf(schema.kind())),
+            file.errorString().toHtmlEscaped() + QLatin1Char('.'),
+            translated("Choose another name or folder.", "Choisissez un autre nom ou dossier."));
     }
     file.close();
     try {
-        std::unique_ptr<SqlConnection> connection = connected(path);
+        std::unique_ptr<SqlConnection> connection = connected(schema.kind(), path);
         setUpOfOwn(*connection);
         SqlTransaction transaction(*connection);
         schema.create(*connection, QUuid::createUuid().toString(QUuid::WithoutBraces), StoredInstant::now());
@@ -174,19 +171,30 @@ std::unique_ptr<SqlConnection> create(const QString& path, const ProjectSchema& 
     }
 }
 
-std::unique_ptr<SqlConnection> open(const QString& path, const ProjectSchema& schema) {
-    checkPlace(path);
-    std::unique_ptr<SqlConnection> connection = connected(path);
-    const int version = ProjectSchema::versionOf(*connection);
+std::unique_ptr<SqlConnection> open(const QString& path, const DatabaseSchema& schema) {
+    checkPlace(schema.kind(), path);
+    std::unique_ptr<SqlConnection> connection = connected(schema.kind(), path);
+    const int version = schema.versionOf(*connection);
     if (version > schema.version()) {
-        throwNewer(path, version, schema.version());
+        throwNewer(schema, path, version);
     }
     setUpOfOwn(*connection);
     if (version < schema.version()) {
         migrate(*connection, schema, version);
     }
-    ProjectSchema::probe(*connection);
+    schema.probe(*connection);
     return connection;
+}
+
+std::unique_ptr<SqlConnection> openOrCreate(const QString& path, const DatabaseSchema& schema) {
+    if (!QFileInfo::exists(path)) {
+        const QString made = path + QLatin1Char('.') + QUuid::createUuid().toString(QUuid::Id128);
+        create(made, schema).reset();
+        if (!QFile::rename(made, path)) { // which replaces nothing
+            QFile::remove(made);
+        }
+    }
+    return open(path, schema);
 }
 
 void copy(SqlConnection& connection, const QString& target) {
@@ -197,8 +205,9 @@ void copy(SqlConnection& connection, const QString& target) {
     }
     part.close();
     connection.run(connection.dialect().copyToFile(), {part.fileName()});
-    if (!isWhole(part.fileName())) {
-        throwNoCopy(target, translated("the project is damaged.", "le projet est endommagé."));
+    if (!isWhole(connection.kind(), part.fileName())) {
+        throwNoCopy(target,
+                    translated("the %1 is damaged.", "le %1 est endommagé.").arg(nameOf(connection.kind())));
     }
     part.setPermissions(QFile::permissions(connection.place()));
     std::error_code failure;
@@ -210,4 +219,4 @@ void copy(SqlConnection& connection, const QString& target) {
     part.setAutoRemove(false);
 }
 
-} // namespace TechDB::ProjectFile
+} // namespace TechDB::DatabaseFile

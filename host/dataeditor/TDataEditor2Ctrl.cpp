@@ -1,0 +1,87 @@
+#include "TDataEditor2Ctrl.h"
+
+#include "DatasetWriter.h"
+#include "MessageLoggerInterface.h"
+#include "ProjectMgrInterface.h"
+#include "StoredName.h"
+#include "VKError.h"
+
+#include <exception>
+
+namespace {
+
+QString reasonOf(const std::exception& error) {
+    const auto* const ours = dynamic_cast<const VKError*>(&error);
+    return ours != nullptr ? ours->text() : QString::fromUtf8(error.what()).toHtmlEscaped();
+}
+
+TechDB::TDatabase* projectDatabase() {
+    const ProjectMgrInterface* const project = ProjectMgrInterface::returnMe();
+    return project == nullptr ? nullptr : project->projectDatabase();
+}
+
+} // namespace
+
+TDataEditor2Ctrl::TDataEditor2Ctrl() = default;
+
+TDataEditor2Ctrl::~TDataEditor2Ctrl() {
+    if (!m_writer) {
+        return;
+    }
+    try {
+        m_writer->commit();
+    } catch (const std::exception& error) {
+        MessageLoggerInterface::Error(
+            tr("What was imported could not be stored; the project is as it was: %1",
+               "Ce qui a été importé n'a pas pu être enregistré ; le projet est "
+               "inchangé : %1")
+                .arg(reasonOf(error)));
+    }
+}
+
+bool TDataEditor2Ctrl::save(QAbstractItemModel* model, const QString& dataset, const QString& sample,
+                            int role, TechDB::TDatabase* database) {
+    try {
+        store(model, dataset, sample, role, database);
+        return true;
+    } catch (const std::exception& error) {
+        MessageLoggerInterface::Error(
+            tr("The sample <b>%1</b> of the dataset <b>%2</b> was not stored: %3",
+               "L'échantillon <b>%1</b> de l'ensemble de données <b>%2</b> n'a pas été enregistré : %3")
+                .arg(sample.toHtmlEscaped(), dataset.toHtmlEscaped(), reasonOf(error)));
+        return false;
+    }
+}
+
+void TDataEditor2Ctrl::store(const QAbstractItemModel* model, const QString& dataset, const QString& sample,
+                             int role, TechDB::TDatabase* database) {
+    TechDB::TDatabase* const target = database != nullptr ? database : projectDatabase();
+    if (model == nullptr) {
+        throw VKError(tr("There is no table.", "Il n'y a pas de tableau."), {},
+                      tr("Import the file again.", "Importez à nouveau le fichier."));
+    }
+    if (target == nullptr) {
+        throw VKError(tr("No project is open.", "Aucun projet n'est ouvert."), {},
+                      tr("Open or make one first.", "Ouvrez ou créez-en un d'abord."));
+    }
+    writerFor(*target).write(*model, dataset, TechDB::tidiedName(sample), role);
+}
+
+DatasetWriter& TDataEditor2Ctrl::writerFor(TechDB::TDatabase& database) {
+    if (m_whyNotBegun) { // each attempt would wait as long as the first
+        throw VKError(*m_whyNotBegun);
+    }
+    if (!m_writer) {
+        try {
+            m_writer = std::make_unique<DatasetWriter>(database);
+        } catch (const VKError& error) {
+            m_whyNotBegun = error.text();
+            throw;
+        }
+    }
+    if (m_writer->database() != &database) {
+        throw VKError(tr("What is saved together can't go to two projects.",
+                         "Ce qui est enregistré ensemble ne peut pas aller dans deux projets."));
+    }
+    return *m_writer;
+}

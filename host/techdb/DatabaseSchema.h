@@ -1,0 +1,48 @@
+#pragma once
+
+#include "DatabaseKind.h"
+
+#include <QStringList>
+#include <QVector>
+
+namespace TechDB {
+
+class SqlConnection;
+
+/// The tables of a database and how they come about: all at once in a new file, or from an older version step
+/// by step. One more table, named after the kind of database, says in a single row which version a file has.
+/// A plain value.
+class DatabaseSchema {
+public:
+    /// `migrations` holds, at place i, the statements that lead from version i + 1 to i + 2; there is one
+    /// fewer than versions. `probes` are statements that fail if a table or a column is not there.
+    DatabaseSchema(DatabaseKind kind, QStringList creation, QVector<QStringList> migrations,
+                   QStringList probes);
+
+    DatabaseKind kind() const { return m_kind; }
+    int version() const { return m_migrations.size() + 1; }
+
+    /// Makes the tables in an empty database and gives it its identity.
+    void create(SqlConnection& connection, const QString& id, const QString& instant) const;
+
+    /// The version that a database says it has. Throws VKError if it isn't one of this kind.
+    int versionOf(SqlConnection& connection) const;
+    /// The identity (a UUID) that a database was created with.
+    QString idOf(SqlConnection& connection) const;
+
+    /// Leads a database from the older version given to this one. To be called within a transaction.
+    void migrate(SqlConnection& connection, int from) const;
+
+    /// Throws if a table or a column is not there.
+    void probe(SqlConnection& connection) const;
+
+private:
+    QString identity() const;
+
+    DatabaseKind m_kind;
+    QStringList m_creation;
+    QVector<QStringList> m_migrations;
+    QStringList m_probes;
+};
+
+} // namespace TechDB
