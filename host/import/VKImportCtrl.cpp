@@ -1,11 +1,16 @@
 #include "VKImportCtrl.h"
 
-#include "VKImportInterface.h"
+#include "ImportRockEvalVI.h"
 
 namespace {
 
-std::unique_ptr<VKImportInterface> made(int) {
-    return nullptr;
+std::unique_ptr<VKImportInterface> made(int number) {
+    switch (number) {
+    case VKImportCtrl::rockEvalFiles:
+        return std::make_unique<ImportRockEvalVI>();
+    default:
+        return nullptr;
+    }
 }
 
 } // namespace

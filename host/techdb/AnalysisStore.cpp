@@ -1,6 +1,7 @@
 #include "AnalysisStore.h"
 
 #include "CurveBlob.h"
+#include "NumberedName.h"
 #include "SqlConnection.h"
 #include "SqlError.h"
 #include "StoredInstant.h"
@@ -71,6 +72,23 @@ std::optional<AnalysisInfo> AnalysisStore::byKey(qint64 key) const {
     return found;
 }
 
+QVector<AnalysisInfo> AnalysisStore::family(const QString& name) const {
+    const QString base = NumberedName::base(name);
+    QVector<AnalysisInfo> list;
+    // All that begins with "base (", by the order of names: the closing bracket comes behind the opening one.
+    m_connection.select(
+        QStringLiteral("SELECT id, name, analysis_type, created, point_count FROM analyses"
+                       " WHERE name = ? OR (name >= ? AND name < ?) ORDER BY id"),
+        {SqlConnection::text(base), QString(base + QLatin1String(" (")), QString(base + QLatin1String(" )"))},
+        [&](const QSqlQuery& row) {
+            const AnalysisInfo info = analysisOf(row);
+            if (info.name == base || NumberedName::base(info.name) == base) {
+                list.append(info);
+            }
+        });
+    return list;
+}
+
 qint64 AnalysisStore::add(const QString& name, const QString& analysisType, const TAnalysisData& curve) {
     checkName(name);
     const QString reason = curve.whyUnusable();
@@ -80,14 +98,19 @@ qint64 AnalysisStore::add(const QString& name, const QString& analysisType, cons
                           .arg(name.toHtmlEscaped(), reason),
                       {}, translated("Check the file that it came from.", "Vérifiez le fichier d'origine."));
     }
+    const qint64 key = addInfo(name, analysisType, curve.dataSize());
+    m_connection.insert(QStringLiteral("INSERT INTO curves (analysis_id, points) VALUES (?, ?)"),
+                        {key, CurveBlob::encoded(curve)});
+    return key;
+}
+
+qint64 AnalysisStore::addInfo(const QString& name, const QString& analysisType, int pointCount) {
+    checkName(name);
     try {
-        const qint64 key = m_connection.insert(
+        return m_connection.insert(
             QStringLiteral(
                 "INSERT INTO analyses (name, analysis_type, created, point_count) VALUES (?, ?, ?, ?)"),
-            {name, SqlConnection::text(analysisType), StoredInstant::now(), curve.dataSize()});
-        m_connection.insert(QStringLiteral("INSERT INTO curves (analysis_id, points) VALUES (?, ?)"),
-                            {key, CurveBlob::encoded(curve)});
-        return key;
+            {name, SqlConnection::text(analysisType), StoredInstant::now(), pointCount});
     } catch (const SqlError& error) {
         if (error.failure() == SqlFailure::NameTaken) {
             throwTaken(name);

@@ -22,9 +22,13 @@ public:
     QVector<AnalysisInfo> all() const;
     std::optional<AnalysisInfo> byName(const QString& name) const;
     std::optional<AnalysisInfo> byKey(qint64 key) const;
+    /// Those of one name, with and without a number behind it (`NumberedName`).
+    QVector<AnalysisInfo> family(const QString& name) const;
 
     /// Refuses a curve that is not usable and a name that is taken or no name.
     qint64 add(const QString& name, const QString& analysisType, const TAnalysisData& curve);
+    /// The same without the curve, which lies elsewhere.
+    qint64 addInfo(const QString& name, const QString& analysisType, int pointCount);
     void rename(qint64 key, const QString& name);
     void remove(qint64 key);
 

@@ -32,6 +32,9 @@ public:
     virtual QStringList setUp() const = 0;
     /// What it runs once the database is known to be ours.
     virtual QStringList setUpOfOwn() const = 0;
+    /// What it runs if all that the database holds can be made again: a commit survives the end of the
+    /// program at any moment, but doesn't wait for the disk.
+    virtual QStringList setUpOfReplaceable() const = 0;
 
     /// The statement with its words in braces replaced.
     virtual QString adapted(const QString& statement) const = 0;

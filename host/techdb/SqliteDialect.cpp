@@ -28,6 +28,10 @@ QStringList SqliteDialect::setUpOfOwn() const {
     return {QStringLiteral("PRAGMA journal_mode = WAL"), QStringLiteral("PRAGMA synchronous = FULL")};
 }
 
+QStringList SqliteDialect::setUpOfReplaceable() const {
+    return {QStringLiteral("PRAGMA synchronous = NORMAL")};
+}
+
 QString SqliteDialect::adapted(const QString& statement) const {
     QString text = statement;
     text.replace(QLatin1String("{identity}"), QLatin1String("INTEGER PRIMARY KEY AUTOINCREMENT"));

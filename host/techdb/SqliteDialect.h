@@ -12,6 +12,7 @@ public:
     void aim(QSqlDatabase& connection, const QString& place) const override;
     QStringList setUp() const override;
     QStringList setUpOfOwn() const override;
+    QStringList setUpOfReplaceable() const override;
     QString adapted(const QString& statement) const override;
     QString beginWriting() const override;
     QString copyToFile() const override;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -19,6 +20,11 @@ std::size_t firstNotFinite(const std::vector<float>& values) {
     return static_cast<std::size_t>(found - values.begin());
 }
 
+bool sameBits(const std::vector<float>& one, const std::vector<float>& other) {
+    return one.size() == other.size() &&
+           (one.empty() || std::memcmp(one.data(), other.data(), one.size() * sizeof(float)) == 0);
+}
+
 } // namespace
 
 TAnalysisData::TAnalysisData(std::vector<float> x, std::vector<float> y)
@@ -26,6 +32,10 @@ TAnalysisData::TAnalysisData(std::vector<float> x, std::vector<float> y)
 
 int TAnalysisData::dataSize() const {
     return static_cast<int>(std::min({m_x.size(), m_y.size(), std::size_t{maximumPoints}}));
+}
+
+bool TAnalysisData::equals(const TAnalysisData& other) const {
+    return sameBits(m_x, other.m_x) && sameBits(m_y, other.m_y);
 }
 
 QString TAnalysisData::whyUnusable() const {

@@ -27,6 +27,9 @@ public:
     /// abscissae that differ.
     QString whyUnusable() const;
 
+    /// Whether the other curve has the same values, bit for bit.
+    bool equals(const TAnalysisData& other) const;
+
 private:
     std::vector<float> m_x;
     std::vector<float> m_y;

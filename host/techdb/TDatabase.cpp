@@ -5,12 +5,14 @@
 #include "DatabaseRegistry.h"
 #include "DatasetStore.h"
 #include "MessageLoggerInterface.h"
+#include "NumberedName.h"
 #include "ObjectPool.h"
 #include "ReadAhead.h"
 #include "SampleStore.h"
 #include "SqlConnection.h"
 #include "Transaction.h"
 #include "VKError.h"
+#include "VKObject2Analysis.h"
 
 #include <QHash>
 
@@ -89,6 +91,48 @@ const VKObject2Analysis* TDatabase::addAnalysis(const QString& name, const QStri
     record(ObjectChange::Kind::Added, VKObjectType::Analysis, key);
     transaction.commit();
     return analysisByKey(key);
+}
+
+const VKObject2Analysis* TDatabase::addAnalysisInfo(const QString& name, const QString& analysisType,
+                                                    int pointCount) {
+    Transaction transaction(*this);
+    const qint64 key = AnalysisStore(*m_connection).addInfo(name, analysisType, pointCount);
+    record(ObjectChange::Kind::Added, VKObjectType::Analysis, key);
+    transaction.commit();
+    return analysisByKey(key);
+}
+
+const VKObject2Analysis* TDatabase::addAnalysisOnce(const QString& name, const QString& analysisType,
+                                                    const TAnalysisData& curve) {
+    Transaction transaction(*this);
+    const VKObject2Analysis* analysis = sameAnalysis(name, curve);
+    if (analysis == nullptr) {
+        const AnalysisStore store(*m_connection);
+        const auto isTaken = [&store](const QString& candidate) {
+            return store.byName(candidate).has_value();
+        };
+        analysis = addAnalysis(NumberedName::firstFree(name, isTaken), analysisType, curve);
+    }
+    transaction.commit();
+    return analysis;
+}
+
+const VKObject2Analysis* TDatabase::sameAnalysis(const QString& name, const TAnalysisData& curve) const {
+    const QVector<AnalysisInfo> family = AnalysisStore(*m_connection).family(name);
+    for (const AnalysisInfo& info : family) {
+        try {
+            if (info.pointCount == curve.dataSize() && this->curve(info.key).equals(curve)) {
+                return m_objects->analysis(info);
+            }
+        } catch (const VKError&) {
+            // A curve that can't be read equals none. Whoever asks for it is told; here nobody does.
+        }
+    }
+    return nullptr;
+}
+
+bool TDatabase::canPushObject(const VKObject2* object, bool*, bool*, int*) const {
+    return object == nullptr || object->db() != this;
 }
 
 void TDatabase::renameAnalysis(qint64 key, const QString& name) {
@@ -230,7 +274,11 @@ QStringList TDatabase::problems() const {
                        "La table <b>%1</b> renvoie à une ligne absente.")
                         .arg(row.value(0).toString().toHtmlEscaped()));
     });
-    return list + AnalysisStore(*m_connection).problems();
+    return list + curveProblems();
+}
+
+QStringList TDatabase::curveProblems() const {
+    return AnalysisStore(*m_connection).problems();
 }
 
 void TDatabase::record(ObjectChange::Kind kind, VKObjectType type, qint64 key, const QString& formerName) {

@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 
+class VKObject2;
 class VKObject2Analysis;
 class VKObject2Well;
 
@@ -48,23 +49,33 @@ public:
     /// In the order of storing.
     QVector<AnalysisInfo> analyses() const;
     /// Null if there is none.
-    const VKObject2Analysis* getAnalysis(const QString& name) const;
+    virtual const VKObject2Analysis* getAnalysis(const QString& name) const;
     const VKObject2Analysis* analysisByKey(qint64 key) const;
     /// In the order of the keys, null where there is none. For many keys in one look at the file.
     QVector<const VKObject2Analysis*> analysesByKeys(const QVector<qint64>& keys) const;
     /// Refuses a curve that no module could work with (`TAnalysisData::whyUnusable`) and a name that is
     /// taken. The type is what the analysis was measured for.
-    const VKObject2Analysis* addAnalysis(const QString& name, const QString& analysisType,
-                                         const TAnalysisData& curve);
-    void renameAnalysis(qint64 key, const QString& name);
+    virtual const VKObject2Analysis* addAnalysis(const QString& name, const QString& analysisType,
+                                                 const TAnalysisData& curve);
+    /// Stores a curve once: an analysis of this name, with or without a number behind it, that holds the same
+    /// curve is returned as it is. A name that another curve has is told apart by a number ("X (2)").
+    const VKObject2Analysis* addAnalysisOnce(const QString& name, const QString& analysisType,
+                                             const TAnalysisData& curve);
+    virtual void renameAnalysis(qint64 key, const QString& name);
     void removeAnalysis(qint64 key);
     /// The stored curve, bit for bit. Refuses what `addAnalysis` would, in whatever way it came to the file.
-    TAnalysisData curve(qint64 analysis) const;
+    virtual TAnalysisData curve(qint64 analysis) const;
 
     /// Gives the stored curve of an analysis or of its signal. It belongs to the database and is valid until
     /// the next call for an object of the same database, or until that is closed. If it can't be read, the
     /// result is false, the output null, and the log says why.
     static bool analysisData(const VKObject2Analysis* analysis, TAnalysisData** data);
+
+    /// Whether an object is one to be pushed into this database. False only for an object that stands in it
+    /// already, since callers take that for a success: an object that can't be pushed, null too, is refused
+    /// by the push, which says why. The outputs are for a question about replacing, which is never asked;
+    /// they may be null and are left as they are.
+    bool canPushObject(const VKObject2* object, bool*, bool*, int*) const;
 
     QVector<DatasetInfo> datasets() const;
     const VKObject2Well* getWell(const QString& name) const;
@@ -96,6 +107,16 @@ signals:
 
 protected:
     explicit TDatabase(std::unique_ptr<SqlConnection> connection);
+
+    SqlConnection& connection() const { return *m_connection; }
+
+    /// Stores an analysis whose curve the deriving class keeps outside the database.
+    const VKObject2Analysis* addAnalysisInfo(const QString& name, const QString& analysisType,
+                                             int pointCount);
+    /// The analysis that `addAnalysisOnce` would return instead of storing the curve; null if there is none.
+    const VKObject2Analysis* sameAnalysis(const QString& name, const TAnalysisData& curve) const;
+    /// A sentence for each curve that can't be read; for `problems`.
+    virtual QStringList curveProblems() const;
 
 private:
     friend class ReadAhead;

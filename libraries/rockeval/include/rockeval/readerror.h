@@ -12,10 +12,12 @@ class ReadError : public std::runtime_error {
 public:
     /// `problem` says what happened and what to do next, without a full stop.
     ReadError(const std::string& fileName, std::size_t line, const std::string& problem)
-        : std::runtime_error(sentence(fileName, line, problem)), m_fileName(fileName), m_line(line) {}
+        : std::runtime_error(sentence(fileName, line, problem)), m_fileName(fileName), m_line(line),
+          m_problem(problem) {}
 
     const std::string& fileName() const { return m_fileName; }
     std::size_t line() const { return m_line; }
+    const std::string& problem() const { return m_problem; }
 
 private:
     static std::string sentence(const std::string& fileName, std::size_t line, const std::string& problem) {
@@ -25,6 +27,7 @@ private:
 
     std::string m_fileName;
     std::size_t m_line;
+    std::string m_problem;
 };
 
 } // namespace rockeval

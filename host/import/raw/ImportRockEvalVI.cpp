@@ -1,0 +1,208 @@
+#include "ImportRockEvalVI.h"
+
+#include "MessageLoggerInterface.h"
+#include "RawFileKind.h"
+#include "RockEvalResults.h"
+#include "TFileBuffer.h"
+#include "VKDataModelGeneric.h"
+#include "VKError.h"
+#include "rockeval/channels.h"
+#include "rockeval/readbytes.h"
+#include "rockeval/readerror.h"
+#include "rockeval/resultreader.h"
+#include "rockeval/signalreader.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <new>
+#include <string_view>
+
+using RawFileKind::Kind;
+
+namespace {
+
+/// More warnings of one file than these help nobody: a pass may bring a thousand files.
+constexpr std::size_t mostWarnings = 10;
+
+QString shown(const QString& path) {
+    return QFileInfo(path).fileName().toHtmlEscaped();
+}
+
+QString fromReader(const std::string& text) {
+    return QString::fromStdString(text).toHtmlEscaped();
+}
+
+std::string_view viewOf(const QByteArray& bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+/// A sentence about a place in a file; line 0 names none.
+QString remark(const QString& name, std::size_t line, const QString& text) {
+    if (line == 0) {
+        return ImportRockEvalVI::tr("<b>%1</b>: %2.", "<b>%1</b> : %2.").arg(name, text);
+    }
+    return ImportRockEvalVI::tr("<b>%1</b>, line %2: %3.", "<b>%1</b>, ligne %2 : %3.")
+        .arg(name, QString::number(line), text);
+}
+
+void logWarnings(const QString& name, const std::vector<rockeval::Warning>& warnings) {
+    for (std::size_t i = 0; i < std::min(warnings.size(), mostWarnings); ++i) {
+        MessageLoggerInterface::Warning(remark(name, warnings[i].line, fromReader(warnings[i].text)));
+    }
+    if (warnings.size() > mostWarnings) {
+        MessageLoggerInterface::Warning(
+            remark(name, warnings[mostWarnings].line,
+                   ImportRockEvalVI::tr("there are more such places from this line on; check the file",
+                                        "il y en a d'autres à partir de cette ligne ; vérifiez le fichier")));
+    }
+}
+
+/// The first bytes of a file on disk. Throws VKError.
+QByteArray headOf(const QString& path) {
+    const auto refuse = [&path](const QString& cause) { throw VKError(remark(shown(path), 0, cause)); };
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        refuse(ImportRockEvalVI::tr("there is no such file; check where it was moved",
+                                    "ce fichier n'existe pas ; vérifiez son emplacement"));
+    }
+    if (!info.isFile()) { // a pipe would never end
+        refuse(
+            ImportRockEvalVI::tr("this is no regular file; choose a .S00 or .R00 file",
+                                 "ce n'est pas un fichier ordinaire ; choisissez un fichier .S00 ou .R00"));
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        refuse(ImportRockEvalVI::tr("the file can't be opened (%1); check its permissions",
+                                    "le fichier ne peut pas être ouvert (%1) ; vérifiez ses permissions")
+                   .arg(file.errorString().toHtmlEscaped()));
+    }
+    const QByteArray head = file.read(RawFileKind::headSize);
+    if (file.error() != QFileDevice::NoError) {
+        refuse(ImportRockEvalVI::tr(
+                   "the file can't be read (%1); check the drive and copy the file again",
+                   "le fichier ne peut pas être lu (%1) ; vérifiez le disque et copiez-le à nouveau")
+                   .arg(file.errorString().toHtmlEscaped()));
+    }
+    return head;
+}
+
+} // namespace
+
+ImportRockEvalVI::ImportRockEvalVI() = default;
+ImportRockEvalVI::~ImportRockEvalVI() = default;
+
+void ImportRockEvalVI::prepareForProbe(bool probe) {
+    if (probe) {
+        forgetSource();
+    }
+}
+
+bool ImportRockEvalVI::acceptsFile(TFileBuffer& buffer, const QString& path, QString& text) {
+    if (RawFileKind::ofName(path) == Kind::Other) {
+        return false;
+    }
+    try {
+        const QByteArray head = buffer.isEmpty() ? headOf(path) : buffer.data().left(RawFileKind::headSize);
+        if (RawFileKind::looksRaw(head)) {
+            return true;
+        }
+        text =
+            remark(shown(path), 0,
+                   tr("no section in square brackets stands near its beginning, so this is no raw "
+                      "Rock-Eval file; export it from the analyser again as plain text",
+                      "aucune section entre crochets ne figure près du début, ce n'est donc pas un fichier "
+                      "brut Rock-Eval ; exportez-le à nouveau de l'analyseur en texte brut"));
+    } catch (const VKError& error) {
+        text = error.text();
+    }
+    MessageLoggerInterface::Error(text);
+    return false;
+}
+
+void ImportRockEvalVI::setSource(const QString&, const QString& name, const QString&, TFileBuffer* buffer) {
+    forgetSource();
+    m_name = name;
+    m_buffer.reset(buffer);
+}
+
+int ImportRockEvalVI::dataCount() {
+    read();
+    return m_count;
+}
+
+float* ImportRockEvalVI::firstChannel() {
+    read();
+    return m_time.empty() ? nullptr : m_time.data();
+}
+
+float* ImportRockEvalVI::secondChannel() {
+    read();
+    return m_fid.empty() ? nullptr : m_fid.data();
+}
+
+QAbstractItemModel* ImportRockEvalVI::resultsModel() {
+    read();
+    return m_results.get();
+}
+
+void ImportRockEvalVI::forgetSource() {
+    m_name.clear();
+    m_buffer.reset();
+    m_read = false;
+    m_count = NO_DATA_CODE;
+    m_time.clear();
+    m_fid.clear();
+    m_results.reset();
+}
+
+void ImportRockEvalVI::read() {
+    if (m_read || m_name.isEmpty()) {
+        return;
+    }
+    m_read = true;
+    try {
+        readContent();
+    } catch (const rockeval::ReadError& error) {
+        MessageLoggerInterface::Error(remark(shown(m_name), error.line(), fromReader(error.problem())));
+    } catch (const std::bad_alloc&) {
+        MessageLoggerInterface::Error(remark(
+            shown(m_name), 0,
+            tr("there is not enough memory for this file", "la mémoire ne suffit pas pour ce fichier")));
+    } catch (const VKError& error) {
+        MessageLoggerInterface::Error(error.text());
+    }
+}
+
+void ImportRockEvalVI::readContent() {
+    const QByteArray bytes = content();
+    const std::string name = m_name.toStdString();
+    if (RawFileKind::ofName(m_name) == Kind::Results) {
+        const rockeval::ResultTable table = rockeval::readResults(viewOf(bytes), name);
+        m_results = RockEvalResults::model(table);
+        m_count = R00_TABLE_CODE;
+        logWarnings(shown(m_name), table.warnings);
+        return;
+    }
+    const rockeval::RawSignal signal = rockeval::readSignal(viewOf(bytes), name);
+    rockeval::Channels channels = rockeval::toChannels(signal.curve);
+    m_time = std::move(channels.time);
+    m_fid = std::move(channels.fid);
+    m_count = static_cast<int>(m_time.size());
+    logWarnings(shown(m_name), signal.warnings);
+}
+
+QByteArray ImportRockEvalVI::content() {
+    const auto buffer = m_buffer ? std::move(m_buffer) : std::make_unique<TFileBuffer>(m_name, false);
+    if (buffer->isEmpty()) {
+        buffer->read();
+    }
+    if (static_cast<std::size_t>(buffer->data().size()) > rockeval::maxFileBytes) {
+        throw VKError(
+            remark(shown(m_name), 0,
+                   tr("it is larger than any raw Rock-Eval file; choose a .S00 or .R00 file",
+                      "il dépasse tout fichier brut Rock-Eval ; choisissez un fichier .S00 ou .R00")));
+    }
+    return buffer->data();
+}
