@@ -6,7 +6,7 @@
 #include "MessageLoggerInterface.h"
 #include "NameReservations.h"
 #include "NumberedName.h"
-#include "ProjectFile.h"
+#include "DatabaseFile.h"
 #include "SqlConnection.h"
 #include "TcmFile.h"
 #include "Transaction.h"
@@ -16,7 +16,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QUuid>
 
 #include <optional>
 #include <utility>
@@ -47,20 +46,9 @@ bool told(MessageLoggerInterface* logger, const Step& step) {
     }
 }
 
-/// The index under its name is whole at any moment: it is made beside it, and of two windows that do so the
-/// first one wins.
 std::unique_ptr<SqlConnection> indexIn(const QString& folder) {
-    const TechDB::ProjectSchema& schema = TechDB::ProjectSchema::current();
-    const QString path = folder + QStringLiteral("/index.vornimport");
-    if (!QFile::exists(path)) {
-        const QString made =
-            folder + QStringLiteral("/index-%1.new").arg(QUuid::createUuid().toString(QUuid::Id128));
-        TechDB::ProjectFile::create(made, schema).reset();
-        if (!QFile::rename(made, path)) {
-            QFile::remove(made);
-        }
-    }
-    std::unique_ptr<SqlConnection> connection = TechDB::ProjectFile::open(path, schema);
+    std::unique_ptr<SqlConnection> connection = TechDB::DatabaseFile::openOrCreate(
+        folder + QStringLiteral("/index.vornimport"), TechDB::ProjectSchema::current());
     const QStringList statements = connection->dialect().setUpOfReplaceable();
     for (const QString& statement : statements) {
         connection->run(statement);
