@@ -1,0 +1,114 @@
+#include "ExcelDate.h"
+#include "ExcelFormat.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using ExcelDate::Origin;
+using ExcelFormat::Kind;
+
+namespace {
+
+std::string text(double serial, Kind kind, Origin origin = Origin::Year1900) {
+    const QVariant value = ExcelDate::value(serial, origin, kind);
+    return value.type() == QVariant::Double ? "number" : value.toString().toStdString();
+}
+
+} // namespace
+
+TEST(ExcelDates, count_a_day_in_1900_that_was_not) {
+    EXPECT_EQ(text(1, Kind::Date), "1900-01-01");
+    EXPECT_EQ(text(59, Kind::Date), "1900-02-28");
+    EXPECT_EQ(text(60, Kind::Date), "1900-02-29");
+    EXPECT_EQ(text(61, Kind::Date), "1900-03-01");
+    EXPECT_EQ(text(45415, Kind::Date), "2024-05-03");
+    EXPECT_EQ(text(43953, Kind::Date, Origin::Year1904), "2024-05-03");
+    EXPECT_EQ(text(0, Kind::Date, Origin::Year1904), "1904-01-01");
+    EXPECT_EQ(text(2958465, Kind::Date), "9999-12-31");
+    EXPECT_EQ(text(2957003, Kind::Date, Origin::Year1904), "9999-12-31");
+}
+
+TEST(ExcelDates, keep_the_time_and_round_it_to_milliseconds) {
+    EXPECT_EQ(text(45415.604166666664, Kind::DateTime), "2024-05-03T14:30:00");
+    EXPECT_EQ(text(45415.604166666664, Kind::Date), "2024-05-03T14:30:00")
+        << "the time is hidden, not absent";
+    EXPECT_EQ(text(45415, Kind::DateTime), "2024-05-03T00:00:00");
+    EXPECT_EQ(text(45414.999999999993, Kind::Date), "2024-05-03") << "one step of a double below the day";
+    EXPECT_EQ(text(0.604166666666667, Kind::Time), "14:30:00");
+    EXPECT_EQ(text(0.5, Kind::DateTime), "12:00:00");
+    EXPECT_EQ(text(0.5, Kind::DateTime, Origin::Year1904), "1904-01-01T12:00:00");
+    EXPECT_EQ(text(0.00001, Kind::Time), "00:00:00.864");
+    EXPECT_EQ(text(1.5, Kind::Time), "1900-01-01T12:00:00");
+    EXPECT_EQ(text(1.5, Kind::Duration), "36:00:00");
+    EXPECT_EQ(text(100, Kind::Duration), "2400:00:00");
+}
+
+TEST(ExcelDates, what_is_no_date_stays_a_number) {
+    for (const double serial :
+         {-1.0, 2958465.999999999, 2958466.0, 1e300, std::numeric_limits<double>::infinity(),
+          std::numeric_limits<double>::quiet_NaN()}) {
+        for (const Kind kind : {Kind::Date, Kind::Time, Kind::DateTime, Kind::Duration}) {
+            EXPECT_EQ(text(serial, kind), "number") << serial;
+        }
+    }
+    EXPECT_EQ(text(0, Kind::Date), "number") << "often a missing value";
+    EXPECT_EQ(text(45415, Kind::Number), "number");
+}
+
+TEST(ExcelFormats, are_told_apart_by_number) {
+    const Kind plain = Kind::Number;
+    for (const int id : {-1, 0, 1, 13, 23, 37, 44, 48, 49, 164, 100000}) {
+        EXPECT_EQ(ExcelFormat::kindOf(id), plain) << id;
+    }
+    EXPECT_EQ(ExcelFormat::kindOf(14), Kind::Date);
+    EXPECT_EQ(ExcelFormat::kindOf(21), Kind::Time);
+    EXPECT_EQ(ExcelFormat::kindOf(22), Kind::DateTime);
+    EXPECT_EQ(ExcelFormat::kindOf(46), Kind::Duration);
+    EXPECT_EQ(ExcelFormat::kindOf(58), Kind::Date);
+}
+
+TEST(ExcelFormats, are_told_apart_by_their_letters) {
+    const struct {
+        const char* code;
+        Kind kind;
+    } cases[] = {
+        {"", Kind::Number},
+        {"General", Kind::Number},
+        {"general\" day\"", Kind::Number},
+        {"0.00", Kind::Number},
+        {"#,##0 \"mm\"", Kind::Number},
+        {"0.00\\m", Kind::Number},
+        {"0.00 m", Kind::Number},
+        {"0.00E+00", Kind::Number},
+        {"# ?/?", Kind::Number},
+        {"[Red]0;[Blue]-0", Kind::Number},
+        {"[$-409]0.0", Kind::Number},
+        {"_-* #,##0_d", Kind::Number},
+        {"@", Kind::Number},
+        {"0;yyyy", Kind::Number},
+        {"\"unclosed yyyy", Kind::Number},
+        {"[unclosed yyyy", Kind::Number},
+        {"\\", Kind::Number},
+        {"dd/mm/yyyy", Kind::Date},
+        {"D.M.YY;@", Kind::Date},
+        {"[$-40C]d mmmm yyyy;@", Kind::Date},
+        {"mmm", Kind::Date},
+        {"mm", Kind::Date},
+        {"yyyy\"h\"", Kind::Date},
+        {"ge.m.d", Kind::Date},
+        {"yyyy-mm-dd hh:mm:ss", Kind::DateTime},
+        {"d/m h AM/PM", Kind::DateTime},
+        {"yyyy\\-mm\\-dd\\Thh:mm:ss.000", Kind::DateTime},
+        {"h:mm A/P", Kind::Time},
+        {"mm:ss.0", Kind::Time},
+        {"hh\"h\"mm", Kind::Time},
+        {"[h]:mm", Kind::Duration},
+        {"[HH]:MM:SS.00", Kind::Duration},
+        {"[ss].00", Kind::Duration},
+        {"[mm]:ss", Kind::Duration},
+    };
+    for (const auto& [code, kind] : cases) {
+        EXPECT_EQ(ExcelFormat::kindOf(QString(code)), kind) << code;
+    }
+}
