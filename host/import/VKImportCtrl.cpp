@@ -1,11 +1,17 @@
 #include "VKImportCtrl.h"
 
+#include "ImportExcel.h"
 #include "VKImportInterface.h"
 
 namespace {
 
-std::unique_ptr<VKImportInterface> made(int) {
-    return nullptr;
+std::unique_ptr<VKImportInterface> made(int number) {
+    switch (number) {
+    case VKImportCtrl::excelTables:
+        return std::make_unique<ImportExcel>();
+    default:
+        return nullptr;
+    }
 }
 
 } // namespace
