@@ -95,6 +95,12 @@ VKError XlsxErrors::bomb(const QString& part) const {
                    tr("(Part %1)", "(Partie %1)").arg(bold(part)), saveAgain());
 }
 
+VKError XlsxErrors::tooManyParts() const {
+    return VKError(refusal(tr("it holds more files than a workbook would.",
+                              "il contient plus de fichiers que n'en aurait un classeur.")),
+                   {}, saveAgain());
+}
+
 VKError XlsxErrors::tooManySheets(int limit) const {
     return VKError(refusal(tr("it has more than %1 sheets.", "il a plus de %1 feuilles.").arg(limit)), {},
                    split());

@@ -27,6 +27,7 @@ public:
     VKError tooLarge(qint64 bytes) const;
     VKError unpacksTooLarge(qint64 bytes) const;
     VKError bomb(const QString& part) const;
+    VKError tooManyParts() const;
     VKError tooManySheets(int limit) const;
     VKError tooManyCells(qint64 limit) const;
     VKError tooManyGaps() const;

@@ -1,5 +1,6 @@
 #include "ZipArchive.h"
 
+#include "ZipEnd.h"
 #include "ZipPart.h"
 
 #include <zip.h>
@@ -7,6 +8,9 @@
 #include <limits>
 
 namespace {
+
+// Far more files than a workbook of a thousand sheets has; the archive's library keeps them all in memory.
+constexpr qint64 longestList = 2LL * 1024 * 1024;
 
 // What text packs to at the very best is far from what packed zeros unpack to.
 constexpr qint64 suspectSize = 16LL * 1024 * 1024;
@@ -50,6 +54,9 @@ ZipArchive::ZipArchive(const QByteArray& bytes, const XlsxErrors& errors, const 
     : m_errors(errors), m_mayUnpack(limits.unpackedBytes) {
     if (bytes.size() > limits.fileBytes) {
         throw errors.tooLarge(limits.fileBytes);
+    }
+    if (ZipEnd::bytesOfLists(bytes) > longestList) {
+        throw errors.tooManyParts();
     }
     m_archive.reset(opened(bytes, errors));
     const auto count = static_cast<quint64>(zip_get_num_entries(m_archive.get(), 0));
