@@ -5,16 +5,14 @@
 
 #include <zip.h>
 
-#include <limits>
-
 namespace {
 
 // Far more files than a workbook of a thousand sheets has; the archive's library keeps them all in memory.
 constexpr qint64 longestList = 2LL * 1024 * 1024;
 
 // What text packs to at the very best is far from what packed zeros unpack to.
-constexpr qint64 suspectSize = 16LL * 1024 * 1024;
-constexpr qint64 suspectRatio = 250;
+constexpr quint64 suspectSize = 16ULL * 1024 * 1024;
+constexpr quint64 suspectRatio = 250;
 
 QString key(const QString& name) {
     QString path = name.toLower().replace('\\', '/'); // some writers use the separator of their system
@@ -89,22 +87,21 @@ std::unique_ptr<ZipPart> ZipArchive::part(const QString& name) {
     if (stat.encryption_method != ZIP_EM_NONE) {
         throw m_errors.encrypted(name);
     }
-    const qint64 size = qint64(qMin<quint64>(stat.size, std::numeric_limits<qint64>::max()));
-    checkSize(name, size, qint64(qMin<quint64>(stat.comp_size, size)));
+    checkSize(name, stat.size, stat.comp_size);
     zip_file* const file = zip_fopen_index(m_archive.get(), *found, 0);
     if (file == nullptr) {
         throw m_errors.damagedPart(name, QString::fromUtf8(zip_strerror(m_archive.get())));
     }
-    return std::make_unique<ZipPart>(file, name, size);
+    return std::make_unique<ZipPart>(file, name, static_cast<qint64>(stat.size));
 }
 
 // A part can't be longer than it says, so this holds before it is unpacked.
-void ZipArchive::checkSize(const QString& name, qint64 size, qint64 packed) {
+void ZipArchive::checkSize(const QString& name, quint64 size, quint64 packed) {
     if (size > suspectSize && size / suspectRatio > packed) {
         throw m_errors.bomb(name);
     }
-    if (size > m_mayUnpack - m_unpacked) {
+    if (size > static_cast<quint64>(m_mayUnpack - m_unpacked)) {
         throw m_errors.unpacksTooLarge(m_mayUnpack);
     }
-    m_unpacked += size;
+    m_unpacked += static_cast<qint64>(size);
 }

@@ -33,7 +33,7 @@ private:
         void operator()(zip* archive) const;
     };
 
-    void checkSize(const QString& name, qint64 size, qint64 packed);
+    void checkSize(const QString& name, quint64 size, quint64 packed);
 
     const XlsxErrors& m_errors;
     qint64 m_mayUnpack;
