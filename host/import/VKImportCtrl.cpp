@@ -1,6 +1,8 @@
 #include "VKImportCtrl.h"
 
 #include "ImportRockEvalVI.h"
+#include "ImportExcel.h"
+#include "VKImportInterface.h"
 
 namespace {
 
@@ -8,6 +10,8 @@ std::unique_ptr<VKImportInterface> made(int number) {
     switch (number) {
     case VKImportCtrl::rockEvalFiles:
         return std::make_unique<ImportRockEvalVI>();
+    case VKImportCtrl::excelTables:
+        return std::make_unique<ImportExcel>();
     default:
         return nullptr;
     }

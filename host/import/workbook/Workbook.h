@@ -50,6 +50,9 @@ struct Limits {
     qint64 unpackedBytes = 1024LL * 1024 * 1024;
     /// Cells that are not empty, over all sheets.
     qint64 cells = 5'000'000;
+    /// Places of all sheets: rows, and in each those up to its last cell that is not empty. Gaps take memory
+    /// too.
+    qint64 places = 20'000'000;
     int sheets = 1'000;
     int columns = 16'384;
     int rows = 1'048'576;

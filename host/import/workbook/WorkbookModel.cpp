@@ -1,5 +1,7 @@
 #include "WorkbookModel.h"
 
+#include "CellReference.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -7,7 +9,6 @@ namespace {
 
 constexpr int fewestRows = 2; // a header and one row below it
 constexpr int fewestColumns = 2;
-constexpr int letters = 26;
 
 int proposal(const Workbook::Book& book) {
     const auto isTable = [](const Workbook::Sheet& sheet) {
@@ -49,9 +50,5 @@ QVariant WorkbookModel::headerData(int section, Qt::Orientation orientation, int
 }
 
 QString WorkbookModel::columnLetters(int column) {
-    QString text;
-    for (int rest = column + 1; rest > 0; rest = (rest - 1) / letters) {
-        text.prepend(QChar('A' + (rest - 1) % letters));
-    }
-    return text;
+    return CellReference::columnLetters(column);
 }
