@@ -23,6 +23,9 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 // -1 if there is none.
@@ -64,12 +67,14 @@ void VornCtrl::createEditor() {
     m_editor = initEditor();
     m_editor->setupEditor(this);
     RibbonInterface::returnMe()->addModuleBar(m_editor, true, true);
-    const bool closes =
-        connect(m_editor, &VornEditor::closeRequested, this, &VornCtrl::slotEditorHasBeenClosed);
-    const bool drops = connect(m_editor, &VornEditor::filesDropped, this, &VornCtrl::slotFilesDropped);
-    const bool imports = connect(m_editor, &VornEditor::importAsked, this, &VornCtrl::slotImportAsked);
-    const bool deletes = connect(m_editor, &VornEditor::fileDelete, this, &VornCtrl::slotDeleteFileFromModel);
-    if (!closes || !drops || !imports || !deletes) {
+    const QMetaObject::Connection connections[] = {
+        connect(m_editor, &VornEditor::closeRequested, this, &VornCtrl::slotEditorHasBeenClosed),
+        connect(m_editor, &VornEditor::filesDropped, this, &VornCtrl::slotFilesDropped),
+        connect(m_editor, &VornEditor::importAsked, this, &VornCtrl::slotImportAsked),
+        connect(m_editor, &VornEditor::fileDelete, this, &VornCtrl::slotDeleteFileFromModel),
+    };
+    const auto holds = [](const QMetaObject::Connection& each) { return static_cast<bool>(each); };
+    if (!std::all_of(std::begin(connections), std::end(connections), holds)) {
         MessageLoggerInterface::Debug(tr("Error connecting VornCtrl with VornEditor",
                                          "Erreur de connexion entre VornCtrl et VornEditor"));
     }

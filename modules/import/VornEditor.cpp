@@ -96,8 +96,8 @@ void VornEditor::initFileTree() {
     m_expandGroup->setContent(box);
 }
 
-void VornEditor::reportUnless(bool connected) {
-    if (!connected) {
+void VornEditor::reportUnless(const QMetaObject::Connection& connected) {
+    if (!static_cast<bool>(connected)) {
         MessageLoggerInterface::Debug(
             tr("VornD editor initialization error", "Erreur d'initialisation de VornEditor"));
     }

@@ -54,7 +54,7 @@ protected slots:
 private:
     void initRibbon(VornCtrl* ctrl);
     void initFileTree();
-    void reportUnless(bool connected);
+    static void reportUnless(const QMetaObject::Connection& connected);
     void addFile(const QString& path, int code);
 
     VKRibbonGroupExpandable* m_expandGroup = nullptr;

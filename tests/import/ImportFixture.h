@@ -22,10 +22,17 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
+
+/// How the test library shows a text that differs.
+inline void PrintTo(const QString& text, std::ostream* out) {
+    *out << text.toStdString();
+}
 
 /// Takes the files whose names hold `accepted`, and tells what it was asked.
 struct FakeReader : VKImportDatasetInterface {
-    FakeReader(QString accepts, QStringList& sharedCalls) : accepted(std::move(accepts)), calls(sharedCalls) {}
+    FakeReader(QString accepts, QStringList& sharedCalls)
+        : accepted(std::move(accepts)), calls(sharedCalls) {}
     ~FakeReader() override { calls << "deleted " + accepted; }
 
     void prepareForProbe(bool probe) override { calls << (probe ? "probe " : "no probe ") + accepted; }

@@ -7,6 +7,7 @@
 #include "SourceRockEditor.h"
 #include "VKRibbonGroup.h"
 
+#include <QBoxLayout>
 #include <QDropEvent>
 #include <QMetaMethod>
 #include <QMimeData>
@@ -153,8 +154,9 @@ TEST_F(ImportEditor, texts_are_those_of_both_languages) {
     SourceRockEditor rock("t", files);
     EXPECT_EQ(tree().dropText(), "Drop here your Excel files containing the Gas data.");
     EXPECT_EQ(custom.dropText(), "Drop here your Excel files containing your data to import.");
-    EXPECT_EQ(rock.dropText(), "Drop here your Source Rock data:\n - Raw file from RockEval VI (.S00 and .R00 "
-                               "files)\n - Excel files");
+    EXPECT_EQ(rock.dropText(),
+              "Drop here your Source Rock data:\n - Raw file from RockEval VI (.S00 and .R00 "
+              "files)\n - Excel files");
     const FrenchTexts french;
     EXPECT_EQ(custom.dropText(), "Déposer ici vos fichiers Excels contenant vos données à importer.");
     EXPECT_EQ(gas.dropText(), "Déposer ici vos fichiers Excels contenant vos données Gaz.");
@@ -187,8 +189,8 @@ TEST_F(ImportEditor, meta_objects_name_signals_and_slots_in_this_order) {
     EXPECT_EQ(gas.key(), "vkVorn");
     CustomImportCtrl custom;
     SourceRockCtrl rock;
-    for (VornCtrl* const each : {static_cast<VornCtrl*>(&gas), static_cast<VornCtrl*>(&custom),
-                                 static_cast<VornCtrl*>(&rock)}) {
+    for (VornCtrl* const each :
+         {static_cast<VornCtrl*>(&gas), static_cast<VornCtrl*>(&custom), static_cast<VornCtrl*>(&rock)}) {
         each->createEditor();
     }
     EXPECT_EQ(host.bars.value(1)->title() + '|' + host.bars.value(2)->title() + '|' +

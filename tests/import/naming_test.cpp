@@ -3,6 +3,7 @@
 #include "TInputsDialog.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QTimer>
@@ -94,15 +95,15 @@ TEST_F(DatasetNaming, rename_asks_again_until_the_name_is_free) {
     Answers answers({Answers::press(renameButton), Answers::reject(), Answers::press(renameButton),
                      Answers::type("taken & gone"), Answers::press(renameButton), Answers::type("free")});
     store("new");
-    EXPECT_EQ(answers.shown,
-              QStringList({question("Lab-a.xls"), "Lab-a.xls", question("Lab-a.xls"), "Lab-a.xls",
-                           question("taken &amp; gone"), "taken & gone"}));
+    EXPECT_EQ(answers.shown, QStringList({question("Lab-a.xls"), "Lab-a.xls", question("Lab-a.xls"),
+                                          "Lab-a.xls", question("taken &amp; gone"), "taken & gone"}));
     EXPECT_EQ(sampleNames("Lab-a.xls"), QStringList({"Sample old", "Lab"}));
     EXPECT_EQ(sampleNames("free"), QStringList({"Sample new", "Lab"}));
 }
 
 TEST_F(DatasetNaming, cancel_and_every_way_to_close_the_question_change_nothing) {
-    for (const Answers::Answer& answer : {Answers::press(cancelButton), Answers::reject(), Answers::close()}) {
+    for (const Answers::Answer& answer :
+         {Answers::press(cancelButton), Answers::reject(), Answers::close()}) {
         Answers answers({answer});
         EXPECT_EQ(failure([this] { store("new"); }),
                   "The import of the dataset <b>Lab-a.xls</b> has been canceled by the user");
@@ -142,9 +143,9 @@ TEST_F(DatasetNaming, the_dialogs_have_these_texts_in_both_languages) {
         failure([this] { store("new"); });
     }
     EXPECT_EQ(english.mid(0, 8),
-              QStringList({"Vorn Import module", question("Lab-a.xls"), "Overwrite", "Rename", "Cancel import",
-                           "Defining of the dataset name to be saved", "Dataset name:",
-                           "Type the dataset name to be saved"}));
+              QStringList({"Vorn Import module", question("Lab-a.xls"), "Overwrite", "Rename",
+                           "Cancel import", "Defining of the dataset name to be saved",
+                           "Dataset name:", "Type the dataset name to be saved"}));
     const FrenchTexts translator;
     QStringList french;
     Answers answers({texts(french), texts(french), texts(french)});

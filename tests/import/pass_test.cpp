@@ -27,7 +27,9 @@ protected:
     }
     void drop(const QStringList& paths) { emit editorOf(module).filesDropped(paths); }
     void import() { emit editorOf(module).importAsked(); }
-    static QString tag(VKImportDatasetInterface* reader) { return dynamic_cast<FakeReader*>(reader)->accepted; }
+    static QString tag(VKImportDatasetInterface* reader) {
+        return dynamic_cast<FakeReader*>(reader)->accepted;
+    }
 
     QStringList calls;
     TestCtrl module;
@@ -56,7 +58,8 @@ TEST_F(ImportPass, files_go_from_pending_to_failed_to_done_and_stay_there) {
     drop({"/bad.xls", "", "/good.xls", "/other.txt"});
     ASSERT_EQ(module.model().size(), 3);
     import();
-    EXPECT_EQ(module.model().value("/bad.xls"), VornCtrl::ImportFailed) << "though the next file came through";
+    EXPECT_EQ(module.model().value("/bad.xls"), VornCtrl::ImportFailed)
+        << "though the next file came through";
     EXPECT_EQ(module.model().value("/good.xls"), VornCtrl::ImportDone);
     EXPECT_EQ(module.model().value("/other.txt"), VornCtrl::ImportPending);
     EXPECT_EQ(errors(), QStringList("broken")) << "one unreadable file among others gets no message";
@@ -116,7 +119,8 @@ TEST_F(ImportPass, messages_are_french_when_the_application_is_and_names_are_no_
     import();
     EXPECT_EQ(informations(), QStringList({"Aucun fichier à importer",
                                            "Le fichier <b>/&lt;b&gt;&amp;.xls</b> a déjà été importé"}));
-    EXPECT_EQ(errors(),
-              QStringList("Impossible d'importer le(s) fichier(s) déposé(s). Vérifiez si les fichiers sont du "
-                          "type '.xls' ou '.xlsx' et qu'ils n'ont pas été suprimés"));
+    EXPECT_EQ(
+        errors(),
+        QStringList("Impossible d'importer le(s) fichier(s) déposé(s). Vérifiez si les fichiers sont du "
+                    "type '.xls' ou '.xlsx' et qu'ils n'ont pas été suprimés"));
 }

@@ -83,11 +83,21 @@ TEST_F(ImportTable, no_column_behind_as_many_as_there_are_rows_is_taken_for_the_
 }
 
 TEST_F(ImportTable, identifiers_that_are_numbers_lose_fraction_zeros_and_exponent) {
-    const QVector<QPair<QString, QString>> expected{
-        {"12.7", "12"}, {"-3.9", "-3"},       {"007", "7"}, {"1e3", "1000"}, {"0.9", "0"},
-        {"A-12", "A-12"}, {"12,7", "12,7"}, {"", ""},     {" ", " "},      {"16777217", "16777216"},
-        {"3000000000", "3000000000"}, {"-2147483648", "-2147483648"}, {"nan", "nan"}, {"inf", "inf"},
-        {"1e40", "1e40"}};
+    const QVector<QPair<QString, QString>> expected{{"12.7", "12"},
+                                                    {"-3.9", "-3"},
+                                                    {"007", "7"},
+                                                    {"1e3", "1000"},
+                                                    {"0.9", "0"},
+                                                    {"A-12", "A-12"},
+                                                    {"12,7", "12,7"},
+                                                    {"", ""},
+                                                    {" ", " "},
+                                                    {"16777217", "16777216"},
+                                                    {"3000000000", "3000000000"},
+                                                    {"-2147483648", "-2147483648"},
+                                                    {"nan", "nan"},
+                                                    {"inf", "inf"},
+                                                    {"1e40", "1e40"}};
     for (const auto& [text, id] : expected) {
         EXPECT_EQ(SampleWriter::sampleId(text), id) << text.toStdString();
     }
@@ -157,8 +167,8 @@ TEST_F(ImportTable, storing_speaks_french_when_the_application_does) {
     EXPECT_EQ(failure([this] { module.saveDatasets(&table, "a"); }),
               "Une erreur est survenue lors de la sauvegarde de l'ensemble de données issues du fichier : "
               "<b>a</b>");
-    EXPECT_TRUE(
-        errors().contains("Une erreur est survenue lors de la sauvegarde de l'échantillon : <b>Sample 1</b>"));
+    EXPECT_TRUE(errors().contains(
+        "Une erreur est survenue lors de la sauvegarde de l'échantillon : <b>Sample 1</b>"));
     EXPECT_EQ(failure([this] { module.saveDatasets(nullptr, "x"); }),
               "Erreur lors de la récupération des données importées");
     Recording good;
