@@ -15,7 +15,7 @@ cd "$root"
 # shellcheck disable=SC2034 # used by the scripts that source this one
 build_packages=(cmake ninja-build g++ ccache rapidjson-dev libcli11-dev libssl-dev)
 # shellcheck disable=SC2034
-desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite qttools5-dev libqwt-qt5-dev fonts-dejavu-core)
+desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite qttools5-dev libqwt-qt5-dev libzip-dev fonts-dejavu-core)
 
 say() { printf '==> %s\n' "$*"; }
 
@@ -91,6 +91,7 @@ usable() {
         libqt5svg5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Svg)' ;;
         libqt5sql5-sqlite) sqlite_driver ;;
         qttools5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Core LinguistTools)' ;;
+        libzip-dev) cmake_runs 'find_package(LibZip REQUIRED)' ;;
         libqwt-qt5-dev) cmake_runs 'find_package(Qwt 6.1 REQUIRED)' ;;
         fonts-dejavu-core) font DejaVuSans.ttf ;;
         *) command -v "$1" ;;
