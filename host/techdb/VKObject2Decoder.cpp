@@ -43,6 +43,11 @@ QVector<const VKObject2*> found(TechDB::TDatabase& database,
         case VKObjectType::Well:
             objects.append(database.wellByKey(references[i].key));
             break;
+        case VKObjectType::Compound:
+        case VKObjectType::Eic:
+        case VKObjectType::Pair:
+        case VKObjectType::Parameter:
+            break;
         }
     }
     return objects;

@@ -1,0 +1,3 @@
+#include "VKVornDatabaseInterface.h"
+
+VKVornDatabaseInterface::~VKVornDatabaseInterface() = default;

@@ -1,0 +1,3 @@
+#include "TCompoundAbstract.h"
+
+TCompoundAbstract::~TCompoundAbstract() = default;

@@ -1,0 +1,7 @@
+#include "TMutableObject.h"
+
+namespace TechDB {
+
+TMutableObject::~TMutableObject() = default;
+
+} // namespace TechDB
