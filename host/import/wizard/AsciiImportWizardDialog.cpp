@@ -1,9 +1,7 @@
 #include "AsciiImportWizardDialog.h"
 
 #include "ColumnTargetDelegate.h"
-#include "ImportNotices.h"
-#include "TLineIcon.h"
-#include "TavrelColors.h"
+#include "ImportNoticesView.h"
 #include "Workbook.h"
 #include "WorkbookModel.h"
 
@@ -17,7 +15,6 @@
 #include <QSpinBox>
 #include <QSplitter>
 #include <QTableView>
-#include <QTextBrowser>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,7 +23,10 @@ namespace {
 
 constexpr int grid = 8;
 constexpr int margin = 2 * grid;
-constexpr int widest = 30 * grid;
+constexpr int narrowest = 8 * grid;
+constexpr int widestPreview = 24 * grid;
+constexpr int widestFact = 28 * grid;
+constexpr int targetWidth = 34 * grid;
 constexpr int rowsMeasured = 60;
 
 template <typename Widget>
@@ -53,15 +53,16 @@ QTableView* table(const char* name, QAbstractItemModel& model) {
     view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     view->horizontalHeader()->setResizeContentsPrecision(rowsMeasured);
     view->horizontalHeader()->setHighlightSections(false);
-    view->verticalHeader()->setDefaultSectionSize(3 * grid);
+    view->verticalHeader()->setMinimumSectionSize(0);
+    view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + grid);
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     return view;
 }
 
-void fitColumns(QTableView& view) {
+void fitColumns(QTableView& view, int widest) {
     view.resizeColumnsToContents();
     for (int column = 0; column < view.model()->columnCount(); ++column) {
-        view.setColumnWidth(column, std::clamp(view.columnWidth(column), 8 * grid, widest));
+        view.setColumnWidth(column, std::clamp(view.columnWidth(column), narrowest, widest));
     }
 }
 
@@ -84,7 +85,7 @@ AsciiImportWizardDialog::AsciiImportWizardDialog(ImportDraft& draft, const QStri
       m_headerRow(named<QSpinBox>("headerRow")), m_headerRows(named<QSpinBox>("headerRows")),
       m_unitsRow(named<QSpinBox>("unitsRow")), m_firstDataRow(named<QSpinBox>("firstDataRow")),
       m_identifier(named<QComboBox>("identifier")), m_columnsView(table("columns", m_columns)),
-      m_previewView(table("preview", m_preview)), m_notices(named<QTextBrowser>("notices")),
+      m_previewView(table("preview", m_preview)), m_notices(named<ImportNoticesView>("notices")),
       m_summary(named<QLabel>("summary")), m_import(named<QPushButton>("import")) {
     setObjectName(QStringLiteral("importWizard"));
     setWindowTitle(fileName.isEmpty() ? tr("Import of a table", "Import d'un tableau")
@@ -95,6 +96,8 @@ AsciiImportWizardDialog::AsciiImportWizardDialog(ImportDraft& draft, const QStri
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(buildColumns());
     splitter->addWidget(buildPreview());
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(margin);
@@ -103,6 +106,7 @@ AsciiImportWizardDialog::AsciiImportWizardDialog(ImportDraft& draft, const QStri
     layout->addWidget(buildFoot());
     connectChoices();
     showTable();
+    m_import->setDefault(true);
     m_columnsView->setFocus();
     constexpr QSize wanted(120 * grid, 82 * grid);
     resize(wanted);
@@ -118,10 +122,12 @@ void AsciiImportWizardDialog::buildChoices(QGridLayout& grid) {
     };
     add(tr("&Sheet", "&Feuille"), m_sheet);
     add(tr("&Header row", "Ligne d'&en-tête"), m_headerRow);
-    add(tr("Rows of header", "Lignes d'en-tête"), m_headerRows);
-    add(tr("&Units row", "Ligne des &unités"), m_unitsRow);
-    add(tr("&Data from row", "&Données dès la ligne"), m_firstDataRow);
-    add(tr("Samples are &named by", "&Noms des échantillons"), m_identifier);
+    add(tr("Its hei&ght", "&Hauteur"), m_headerRows);
+    add(tr("&Units row", "Ligne d'&unités"), m_unitsRow);
+    add(tr("&Data from row", "&Données dès"), m_firstDataRow);
+    add(tr("Samples are &named by", "&Noms pris dans"), m_identifier);
+    m_headerRows->setToolTip(tr("How many rows the header takes; the names in them are joined downward",
+                                "Combien de lignes prend l'en-tête ; les noms y sont joints vers le bas"));
     grid.setColumnStretch(0, 1);
     grid.setColumnStretch(column - 1, 1);
     for (QSpinBox* rowless : {m_headerRow, m_unitsRow}) {
@@ -144,7 +150,7 @@ QWidget* AsciiImportWizardDialog::buildColumns() {
     m_columnsView->setSelectionMode(QAbstractItemView::SingleSelection);
     m_columnsView->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
     m_columnsView->setItemDelegateForColumn(ColumnListModel::Target, new ColumnTargetDelegate(this));
-    m_columnsView->horizontalHeader()->setStretchLastSection(true);
+    m_columnsView->horizontalHeader()->setSectionResizeMode(ColumnListModel::Content, QHeaderView::Stretch);
     connect(m_columnsView, &QTableView::clicked, this, [this](const QModelIndex& index) {
         if (index.column() == ColumnListModel::Target) {
             m_columnsView->edit(index);
@@ -159,20 +165,19 @@ QWidget* AsciiImportWizardDialog::buildColumns() {
 QWidget* AsciiImportWizardDialog::buildPreview() {
     m_previewView->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_previewView->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_previewView->setSelectionBehavior(QAbstractItemView::SelectColumns);
+    connect(m_previewView->selectionModel(), &QItemSelectionModel::currentColumnChanged, this,
+            &AsciiImportWizardDialog::selectInColumns);
     return below(tr("&Preview", "A&perçu"), m_previewView);
 }
 
 QWidget* AsciiImportWizardDialog::buildFoot() {
-    m_notices->setOpenLinks(false);
-    m_notices->setTabChangesFocus(true);
-    m_notices->setFrameShape(QFrame::NoFrame);
-    m_notices->viewport()->setAutoFillBackground(false);
-    m_notices->document()->setDocumentMargin(0);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cancel"));
-    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel", "Annuler"));
+    auto* cancel = buttons->button(QDialogButtonBox::Cancel);
+    cancel->setObjectName(QStringLiteral("cancel"));
+    cancel->setText(tr("Cancel", "Annuler"));
+    cancel->setAutoDefault(false);
     m_import->setText(tr("Import", "Importer"));
-    m_import->setDefault(true);
     buttons->addButton(m_import, QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -213,15 +218,16 @@ void AsciiImportWizardDialog::showTable() {
     showIdentifiers();
     m_columns.reset();
     m_preview.reset();
-    fitColumns(*m_columnsView);
-    fitColumns(*m_previewView);
+    fitColumns(*m_columnsView, widestFact);
+    m_columnsView->setColumnWidth(ColumnListModel::Target, targetWidth);
+    fitColumns(*m_previewView, widestPreview);
     m_columnsView->selectRow(0);
     showEdit();
 }
 
 void AsciiImportWizardDialog::showEdit() {
     m_preview.refresh();
-    showNotices();
+    m_notices->setNotices(ImportNotices::of(m_draft));
     showSummary();
     m_import->setEnabled(m_draft.isComplete());
 }
@@ -254,22 +260,6 @@ void AsciiImportWizardDialog::showIdentifiers() {
     m_identifier->setCurrentIndex(m_draft.mapping().identifier);
 }
 
-void AsciiImportWizardDialog::showNotices() {
-    using Level = ImportNotices::Notice::Level;
-    QString html;
-    for (const auto& notice : ImportNotices::of(m_draft)) {
-        const QString icon = notice.level == Level::Remark     ? QStringLiteral("info")
-                             : notice.level == Level::Obstacle ? QStringLiteral("error")
-                                                               : QStringLiteral("warning");
-        html += QStringLiteral(
-                    "<p style='margin:0 0 4px 0'><img src=':/Ressources/png/toolbar/%1.png' width='14' "
-                    "height='14' style='vertical-align:middle'>&nbsp; %2</p>")
-                    .arg(icon, notice.text);
-    }
-    m_notices->setHtml(html);
-    m_notices->setVisible(!html.isEmpty());
-}
-
 void AsciiImportWizardDialog::showSummary() {
     m_summary->setText(tr("Samples: %1. Columns: %2 of %3.", "Échantillons : %1. Colonnes : %2 sur %3.")
                            .arg(m_draft.sampleCount() - m_draft.identifiers().emptyRows().size())
@@ -277,11 +267,18 @@ void AsciiImportWizardDialog::showSummary() {
                            .arg(m_draft.columnCount()));
 }
 
-void AsciiImportWizardDialog::selectInPreview(const QModelIndex& column) {
-    if (!column.isValid()) {
-        return;
+// Without leaving the rows that are shown.
+void AsciiImportWizardDialog::selectInPreview(const QModelIndex& listed) {
+    const int column = listed.isValid() ? m_draft.column(listed.row()).column : 0;
+    const QModelIndex cell = m_preview.index(std::max(m_previewView->rowAt(0), 0), column);
+    if (cell.isValid() && m_previewView->currentIndex().column() != column) {
+        m_previewView->setCurrentIndex(cell);
     }
-    const int row = std::min(m_draft.mapping().layout.firstDataRow, m_preview.rowCount() - 1);
-    const int inSheet = m_draft.column(column.row()).column;
-    m_previewView->setCurrentIndex(m_preview.index(std::max(row, 0), inSheet));
+}
+
+void AsciiImportWizardDialog::selectInColumns(const QModelIndex& cell) {
+    const int place = cell.isValid() ? m_draft.placeOf(cell.column()) : TableLayout::none;
+    if (place >= 0 && m_columnsView->currentIndex().row() != place) {
+        m_columnsView->selectRow(place);
+    }
 }

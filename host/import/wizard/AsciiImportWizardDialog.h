@@ -6,13 +6,13 @@
 
 #include <QDialog>
 
+class ImportNoticesView;
 class QComboBox;
 class QGridLayout;
 class QLabel;
 class QPushButton;
 class QSpinBox;
 class QTableView;
-class QTextBrowser;
 
 /// Shows a draft of an import and lets a person correct it: the rows of the table and the column that names
 /// the samples at the top, then what becomes of each column, the sheet as it will be imported, and what there
@@ -37,9 +37,9 @@ private:
     void showEdit();
     void showRows();
     void showIdentifiers();
-    void showNotices();
     void showSummary();
-    void selectInPreview(const QModelIndex& column);
+    void selectInPreview(const QModelIndex& listed);
+    void selectInColumns(const QModelIndex& cell);
 
     ImportDraft& m_draft;
     ColumnListModel m_columns;
@@ -52,7 +52,7 @@ private:
     QComboBox* m_identifier;
     QTableView* m_columnsView;
     QTableView* m_previewView;
-    QTextBrowser* m_notices;
+    ImportNoticesView* m_notices;
     QLabel* m_summary;
     QPushButton* m_import;
 };

@@ -118,7 +118,7 @@ QVariant ColumnListModel::headerData(int section, Qt::Orientation orientation, i
     case Target:
         return tr("Imported as", "Importée comme");
     case DecimalComma:
-        return tr("12,5 is a number", "12,5 est un nombre");
+        return tr("Decimal comma", "Virgule décimale");
     case Content:
         return tr("Content", "Contenu");
     default:
@@ -155,15 +155,14 @@ QString ColumnListModel::targetText(int row) const {
     if (!m_draft.column(row).isImported()) {
         return tr("Not imported", "Non importée");
     }
-    const QString name = m_draft.names().names()[row];
-    return isIdentifier(row) ? tr("%1 – names the samples", "%1 – nomme les échantillons").arg(name) : name;
+    return m_draft.names().names()[row];
 }
 
 QString ColumnListModel::contentText(int row) const {
     const ColumnContent& content = m_draft.content(row);
     const bool comma = m_draft.column(row).decimalComma;
-    const int numbers = isIdentifier(row) ? 0 : content.numbersUnder(comma);
-    const int texts = isIdentifier(row) ? 0 : content.textsUnder(comma);
+    const int numbers = content.numbersUnder(comma);
+    const int texts = content.textsUnder(comma);
     if (content.filled() == 0) {
         return tr("empty", "vide");
     }

@@ -54,8 +54,8 @@ void ImportNotices::addIdentifiers() {
     }
     for (const IdentifierCheck::Collision& collision : check.collisions()) {
         add(Notice::Level::Warning,
-            tr("These rows share one sample, %1: %2.", "Ces lignes partagent un seul échantillon, %1 : %2.")
-                .arg(bold(collision.identifier), rowList(collision.rows)));
+            tr("Rows %1 become one sample: %2.", "Les lignes %1 deviennent un seul échantillon : %2.")
+                .arg(rowList(collision.rows), bold(collision.identifier)));
     }
 }
 

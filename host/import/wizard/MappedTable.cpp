@@ -42,14 +42,16 @@ std::unique_ptr<VKDataModelGeneric> MappedTable::make(const Workbook::Sheet& she
     auto table = std::make_unique<VKDataModelGeneric>();
     table->createEmpty(static_cast<int>(places.size()), static_cast<int>(rows.size()));
     for (int column = 0; column < static_cast<int>(places.size()); ++column) {
-        const int place = places[static_cast<std::size_t>(column)];
-        const ColumnMapping& from = mapping.columns[static_cast<std::size_t>(place)];
-        table->setHeaderData(column, Qt::Horizontal, names[place]);
-        for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
+        table->setHeaderData(column, Qt::Horizontal, names[places[static_cast<std::size_t>(column)]]);
+    }
+    for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
+        for (int column = 0; column < static_cast<int>(places.size()); ++column) {
+            const int place = places[static_cast<std::size_t>(column)];
+            const ColumnMapping& from = mapping.columns[static_cast<std::size_t>(place)];
             const QVariant cell = sheet.cell(rows[static_cast<std::size_t>(row)], from.column);
-            const QVariant value = place == mapping.identifier ? CellValue::verbatim(cell)
-                                                               : CellValue::imported(cell, from.decimalComma);
-            table->setData(table->index(row, column), value);
+            table->setData(table->index(row, column), place == mapping.identifier
+                                                          ? CellValue::verbatim(cell)
+                                                          : CellValue::imported(cell, from.decimalComma));
         }
     }
     return table;

@@ -29,12 +29,14 @@ bool MergedCells::isWide(int row, int column) const {
 
 void MergedCells::spread(int range) {
     const auto& merged = m_sheet.merged[range];
+    if (merged.firstRow < 0 || merged.firstColumn < 0) {
+        return;
+    }
     const int firstRow = std::max(merged.firstRow, m_firstRow);
     const int lastRow = std::min(merged.lastRow, m_firstRow + m_rows - 1);
-    const int firstColumn = std::max(merged.firstColumn, 0);
     const int lastColumn = std::min(merged.lastColumn, m_columns - 1);
     for (int row = firstRow; row <= lastRow; ++row) {
-        for (int column = firstColumn; column <= lastColumn; ++column) {
+        for (int column = merged.firstColumn; column <= lastColumn; ++column) {
             int& there = m_ranges[place(row, column)];
             if (there != unmerged) {
                 return;

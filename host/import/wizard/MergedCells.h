@@ -6,8 +6,8 @@
 
 /// Some rows of a sheet in which merged cells count in each place that they cover. Refers to the sheet.
 ///
-/// The ranges come from a file: those that reach out of the sheet are cut, of those that overlap the first
-/// holds.
+/// The ranges come from a file: those that begin outside of the sheet don't count, those that reach out of it
+/// are cut, and of those that overlap the first holds.
 class MergedCells {
 public:
     MergedCells(const Workbook::Sheet& sheet, int firstRow, int rowCount);

@@ -3,6 +3,7 @@
 #include <QByteArray>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -27,28 +28,31 @@ QChar other(QChar mark) {
     return mark == ',' ? '.' : ',';
 }
 
-/// Reads a text once from its start, writing the number as C++ has it.
+/// Reads a text once from its start, writing the number as C++ has it. Tables hold many: nothing is
+/// allocated.
 class NumberReader {
 public:
     NumberReader(const QString& text, QChar mark) : m_text(text), m_mark(mark) {}
 
-    std::optional<double> read() {
+    bool read() {
         readSign();
         readWhole();
         const bool hasFraction = readFraction();
         const bool hasExponent = readExponent();
         if (m_at != m_text.size() || (m_wholeDigits == 0 && !hasFraction)) {
-            return {};
+            return false;
         }
         const bool isCode = m_wholeDigits > 1 && m_startsWithZero;
         if (!hasFraction && !hasExponent && (isCode || m_wholeDigits > exactDigits)) {
-            return {};
+            return false;
         }
-        if (!hasFraction && m_groups == 1 && m_separator == other(m_mark)) {
-            return {};
-        }
+        const bool isOneGroup = m_groups == 1 && m_separator == other(m_mark);
+        return (hasFraction || !isOneGroup) && (!hasExponent || value().has_value());
+    }
+
+    std::optional<double> value() const {
         bool isNumber = false;
-        const double value = m_plain.toDouble(&isNumber);
+        const double value = QByteArray::fromRawData(m_plain.data(), m_length).toDouble(&isNumber);
         return isNumber && std::isfinite(value) ? std::optional<double>(value) : std::nullopt;
     }
 
@@ -63,16 +67,19 @@ private:
         return end - place;
     }
 
-    void take(int digits) {
-        m_plain += m_text.midRef(m_at, digits).toLatin1();
-        m_at += digits;
+    void write(char character) { m_plain[static_cast<std::size_t>(m_length++)] = character; }
+
+    void take(int count) {
+        for (const int end = m_at + count; m_at < end; ++m_at) {
+            write(m_text[m_at].toLatin1());
+        }
     }
 
     void readSign() {
         constexpr ushort minus = 0x2212;
         const QChar sign = at(m_at);
         if (sign == '-' || sign == '+' || sign == minus) {
-            m_plain += sign == '+' ? "" : "-";
+            write(sign == '+' ? '+' : '-');
             ++m_at;
         }
     }
@@ -99,7 +106,7 @@ private:
         if (digits == 0) {
             return false;
         }
-        m_plain += '.';
+        write('.');
         ++m_at;
         take(digits);
         return true;
@@ -118,9 +125,10 @@ private:
         return true;
     }
 
-    QString m_text;
+    const QString& m_text;
     QChar m_mark;
-    QByteArray m_plain;
+    std::array<char, longestText> m_plain{}; // never longer than the text
+    int m_length = 0;
     int m_at = 0;
     int m_wholeDigits = 0;
     int m_groups = 0;
@@ -151,7 +159,8 @@ bool mayBeThousands(const QString& number, QChar mark) {
 
 std::optional<double> NumberText::value(const QString& text, bool decimalComma) {
     const QString bare = text.trimmed();
-    return mayBeNumber(bare) ? NumberReader(bare, decimalComma ? ',' : '.').read() : std::nullopt;
+    NumberReader reader(bare, decimalComma ? ',' : '.');
+    return mayBeNumber(bare) && reader.read() ? reader.value() : std::nullopt;
 }
 
 NumberText::Mark NumberText::mark(const QString& text) {
@@ -159,8 +168,8 @@ NumberText::Mark NumberText::mark(const QString& text) {
     if (!mayBeNumber(bare)) {
         return Mark::NoNumber;
     }
-    const bool withComma = NumberReader(bare, ',').read().has_value();
-    const bool withPoint = NumberReader(bare, '.').read().has_value();
+    const bool withComma = NumberReader(bare, ',').read();
+    const bool withPoint = NumberReader(bare, '.').read();
     if (withComma == withPoint) {
         return withComma ? Mark::Whole : Mark::NoNumber;
     }

@@ -11,7 +11,6 @@
 namespace {
 
 constexpr int shownDigits = 12;
-constexpr double headerTint = 0.12;
 
 QVariant aligned(int horizontal) {
     return horizontal | static_cast<int>(Qt::AlignVCenter);
@@ -62,13 +61,10 @@ QVariant SheetPreviewModel::data(const QModelIndex& index, int role) const {
     case Qt::ForegroundRole:
         return isImported(row, index.column()) ? QVariant()
                                                : TavrelColors::caption(QGuiApplication::palette());
-    case Qt::BackgroundRole:
-        return isHeader(row) || row == m_draft.mapping().layout.unitsRow
-                   ? QVariant(TavrelColors::tint(QGuiApplication::palette(), headerTint))
-                   : QVariant();
     case Qt::FontRole: {
         QFont font;
         font.setBold(isHeader(row));
+        font.setItalic(row == m_draft.mapping().layout.unitsRow);
         return font;
     }
     default:
