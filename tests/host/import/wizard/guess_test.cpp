@@ -1,0 +1,139 @@
+#include "SheetBuilder.h"
+
+#include "ColumnContent.h"
+#include "ColumnHeader.h"
+#include "IdentifierGuess.h"
+#include "LayoutGuess.h"
+#include "MappedTable.h"
+#include "ModelSheet.h"
+#include "NumberText.h"
+
+#include <climits>
+
+namespace {
+
+QString layoutOf(const Workbook::Sheet& sheet) {
+    const TableLayout layout = LayoutGuess::of(sheet);
+    return QString("%1+%2 %3 %4")
+        .arg(layout.headerRow)
+        .arg(layout.headerRows)
+        .arg(layout.unitsRow)
+        .arg(layout.firstDataRow);
+}
+
+QStringList headersOf(const Workbook::Sheet& sheet, const TableLayout& layout) {
+    QStringList names;
+    for (const ColumnHeader& header : ColumnHeader::read(sheet, layout)) {
+        names += header.name();
+    }
+    return names;
+}
+
+std::vector<bool> commasOf(const Workbook::Sheet& sheet) {
+    return ColumnContent::decimalCommas(ColumnContent::read(sheet, MappedTable::rows(sheet, {})));
+}
+
+int identifierAmong(const QStringList& names) {
+    std::vector<ColumnHeader> headers(static_cast<std::size_t>(names.size()));
+    for (int i = 0; i < names.size(); ++i) {
+        headers[static_cast<std::size_t>(i)].levels = QStringList(names[i]);
+    }
+    return IdentifierGuess::of(headers);
+}
+
+} // namespace
+
+TEST(NumberText, reads_numbers_under_one_decimal_mark_and_leaves_other_texts_alone) {
+    const QVector<QPair<QString, double>> commas = {
+        {"12,5", 12.5},      {" -0,5 ", -0.5},      {",5", 0.5},           {"1 234,5", 1234.5},
+        {"1.234,5", 1234.5}, {"1,5E-3", 0.0015},    {"\u22123,25", -3.25}, {"1\u202F234\u202F567", 1234567},
+        {"12", 12},          {"1.234.567", 1234567}};
+    for (const auto& [text, value] : commas) {
+        EXPECT_EQ(NumberText::value(text, true).value_or(-9999), value) << qPrintable(text);
+    }
+    EXPECT_EQ(NumberText::value("1,234.5", false).value_or(-9999), 1234.5);
+    for (const auto* text :
+         {"",     " ",  "<1", "<0,1", "n.d.", "12,5 %", "0x1F", "nan",   "inf",  "1e999",
+          "-",    ",",  "e5", "007",  "12,",  "1,2,3",  "12.5", "1.234", "1 23", "12345678901234567",
+          "1,5e", "--1"}) {
+        EXPECT_FALSE(NumberText::value(text, true).has_value()) << text;
+    }
+    EXPECT_FALSE(NumberText::value(QString(100000, '1'), true).has_value());
+}
+
+TEST(DecimalComma, is_found_by_column_and_where_it_is_open_by_the_other_columns) {
+    EXPECT_EQ(commasOf(sheetOf({{"12,5", "12.5", "1,234", "word"}, {"n.d.", "3.1", "5,678", 2}})),
+              (std::vector<bool>{true, false, true, false}));
+    EXPECT_EQ(commasOf(sheetOf({{"1,234", "12.5"}, {"5,678", "1.5"}})), (std::vector<bool>{false, false}))
+        << "where points are decimal, commas may separate thousands";
+    EXPECT_EQ(commasOf(sheetOf({{"1,234"}})), (std::vector<bool>{true}));
+    EXPECT_EQ(commasOf(sheetOf({{"0,123"}, {"0.5"}, {"0,7"}})), (std::vector<bool>{true}));
+}
+
+TEST(LayoutGuess, finds_header_units_and_samples) {
+    EXPECT_EQ(layoutOf(sheetOf({{"Sample", "TOC"}, {"A", 1}})), "0+1 -1 1");
+    EXPECT_EQ(layoutOf(sheetOf({{"Laboratory"},
+                                {"Client", "Total"},
+                                {},
+                                {"Sample", "Depth", "TOC", "Tmax"},
+                                {"", "m", "%", "°C"},
+                                {"A", 1, 2, 3}})),
+              "3+1 4 5");
+    EXPECT_EQ(layoutOf(sheetOf({{"Nom", "Formation", "Faciès"}, {"A", "Toarcien", "argile"}})), "0+1 -1 1")
+        << "words below a header are no units";
+    EXPECT_EQ(layoutOf(sheetOf({{"A", 1.5, "2,5"}, {"B", 2, 3}})), "-1+1 -1 0") << "no header";
+    EXPECT_EQ(layoutOf(sheetOf({})), "-1+1 -1 0");
+    EXPECT_EQ(layoutOf(sheetOf({{"Sample", "TOC"}})), "0+1 -1 1") << "a header alone";
+}
+
+TEST(LayoutGuess, joins_merged_headers_downward) {
+    Workbook::Sheet sheet = sheetOf({{"Report"},
+                                     {"Sample", "Isotopes", "", "TOC"},
+                                     {"", "δ13C", "δD", ""},
+                                     {"", "‰", "(‰)", "[%]"},
+                                     {"A", -45, -180, 2}});
+    sheet.merged = {{0, 0, 0, 3}, {1, 0, 3, 0}, {1, 1, 1, 2}, {1, 3, 2, 3}};
+    const TableLayout layout = LayoutGuess::of(sheet);
+    EXPECT_EQ(layoutOf(sheet), "1+2 3 4") << "a title merged over all columns is no header";
+    EXPECT_EQ(headersOf(sheet, layout),
+              QStringList({"Sample", "Isotopes – δ13C (‰)", "Isotopes – δD (‰)", "TOC (%)"}));
+    EXPECT_EQ(headersOf(sheet, {}), QStringList({"Column A", "Column B", "Column C", "Column D"}));
+}
+
+TEST(LayoutGuess, survives_merged_ranges_made_to_harm) {
+    Workbook::Sheet sheet = sheetOf({{"Sample", "Group", ""}, {"", "x", "y"}, {"A", 1, 2}});
+    sheet.merged = {
+        {0, 1, 0, 2}, {INT_MIN, INT_MIN, INT_MAX, INT_MAX}, {2, 2, 0, 0}, {-5, -5, -1, -1}, {100, 0, 200, 0}};
+    for (int i = 0; i < 100000; ++i) {
+        sheet.merged.append({0, 0, INT_MAX, INT_MAX});
+    }
+    const TableLayout layout = LayoutGuess::of(sheet);
+    EXPECT_GE(layout.firstDataRow, 1);
+    EXPECT_EQ(ColumnHeader::read(sheet, layout).size(), 3U);
+}
+
+TEST(IdentifierGuess, knows_the_usual_headers_in_both_languages) {
+    EXPECT_EQ(identifierAmong({"Well", "Name", "Sample ID"}), 2);
+    EXPECT_EQ(identifierAmong({"Puits", "N° échantillon", "Nom"}), 1);
+    EXPECT_EQ(identifierAmong({"TOC", "Nom de l'échantillon"}), 1);
+    EXPECT_EQ(identifierAmong({"TOC", "SAMPLE_NO"}), 1);
+    EXPECT_EQ(identifierAmong({"Depth", "Nom", "Puits"}), 1);
+    EXPECT_EQ(identifierAmong({"TOC", "Well name", "Depth"}), 1);
+    EXPECT_EQ(identifierAmong({"Depth", "Sample depth", "Nd"}), 0) << "neither names a sample";
+    EXPECT_EQ(identifierAmong({}), -1);
+    EXPECT_EQ(identifierAmong({QString(30000, 'n'), "ID"}), 1);
+}
+
+TEST(ModelSheet, takes_named_columns_as_the_first_row) {
+    VKDataModelGeneric table;
+    table.createEmpty(3, 2);
+    table.setHeaderData(0, Qt::Horizontal, "Sample");
+    table.setData(table.index(0, 0), 7);
+    table.setData(table.index(0, 1), true);
+    const Workbook::Sheet sheet = ModelSheet::read(table);
+    ASSERT_EQ(sheet.rowCount(), 2);
+    EXPECT_EQ(sheet.cell(0, 0), "Sample");
+    EXPECT_EQ(sheet.cell(1, 0), 7.0);
+    EXPECT_EQ(sheet.cell(1, 0).userType(), int(QMetaType::Double));
+    EXPECT_EQ(sheet.cell(1, 1), "TRUE");
+}
