@@ -1,16 +1,11 @@
 #include "TDescriptionVorn.h"
 
+#include "GasProperties.h"
+#include "GeneralProperties.h"
+#include "SourceRockProperties.h"
+
 const QVector<TKnownProperty>& TDescriptionVorn::properties() const {
-    using Family = TKnownProperty::Family;
-    static const QVector<TKnownProperty> known = {
-        {QStringLiteral("toc"),
-         QStringLiteral("TOC"),
-         QStringLiteral("Total organic carbon"),
-         QStringLiteral("Carbone organique total"),
-         QStringLiteral("wt%"),
-         {QStringLiteral("%")},
-         {QStringLiteral("cot")},
-         Family::SourceRock},
-    };
+    static const QVector<TKnownProperty> known =
+        GeneralProperties::all() + SourceRockProperties::all() + GasProperties::all();
     return known;
 }

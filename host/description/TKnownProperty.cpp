@@ -6,6 +6,7 @@ namespace {
 
 constexpr uint Plus = '+';
 constexpr uint Slash = '/';
+constexpr uint Prime = '\'';
 
 bool isDelta(uint character) {
     constexpr uint smallDelta = 0x03B4;
@@ -20,6 +21,14 @@ bool isSlash(uint character) {
     return character == Slash || character == fractionSlash || character == divisionSlash;
 }
 
+/// An apostrophe behind a digit is a prime: S3' is another quantity than S3.
+bool isPrime(uint character, const QVector<uint>& before) {
+    constexpr uint typographic = 0x2019;
+    constexpr uint prime = 0x2032;
+    return (character == Prime || character == typographic || character == prime) && !before.isEmpty() &&
+           QChar::isNumber(before.last());
+}
+
 } // namespace
 
 QString TKnownProperty::plain(const QString& name) {
@@ -31,10 +40,14 @@ QString TKnownProperty::plain(const QString& name) {
             kept.append('d');
         } else if (QChar::isLetterOrNumber(character)) {
             kept.append(character);
-        } else if (kept.isEmpty() || kept.last() == Plus || kept.last() == Slash) {
+        } else if (isPrime(character, kept)) {
+            kept.append(Prime);
+        } else if (kept.isEmpty() || kept.last() == Slash) {
             continue;
-        } else if (character == Plus || isSlash(character)) {
-            kept.append(character == Plus ? Plus : Slash);
+        } else if (isSlash(character)) {
+            kept.append(Slash);
+        } else if (character == Plus && kept.last() != Plus) {
+            kept.append(Plus);
         }
     }
     if (!kept.isEmpty() && kept.last() == Slash) {

@@ -22,8 +22,8 @@ struct TKnownProperty {
     Family family = Family::General;
 
     /// A name as it is compared, whoever wrote it: lower case, without accents, a delta as "d", small raised
-    /// and lowered digits as digits, without blanks and punctuation. A plus behind a name and a slash between
-    /// two stay, for they tell names apart: "C₆ +" gives "c6+", "δ¹³C-CH₄ (‰)" gives "d13cch4", "S1 / TOC"
-    /// gives "s1/toc".
+    /// and lowered digits as digits, without blanks and punctuation. A plus behind a name, a slash between
+    /// two and a prime behind a digit stay, for they tell names apart: "C₆ +" gives "c6+", "δ¹³C-CH₄ (‰)"
+    /// gives "d13cch4", "S1 / TOC" gives "s1/toc", "S3’" gives "s3'".
     static QString plain(const QString& name);
 };

@@ -26,6 +26,11 @@ TEST(TKnownPropertyPlain, a_plus_and_a_slash_stay_where_they_tell_names_apart) {
     EXPECT_EQ(plain("S1\u2215TOC"), "s1/toc");
     EXPECT_EQ(plain("/+ depth / "), "depth");
     EXPECT_EQ(plain("C6++"), "c6+");
+    EXPECT_EQ(plain("C2+ / C1+"), "c2+/c1+");
+    EXPECT_EQ(plain("S3’ CO"), "s3'co");
+    EXPECT_EQ(plain("Indice d'hydrogène"), "indicedhydrogene");
+    EXPECT_EQ(plain("S3’ CO"), "s3'co");
+    EXPECT_EQ(plain("Indice d'hydrogène"), "indicedhydrogene");
 }
 
 TEST(TKnownPropertyPlain, names_of_signs_alone_are_empty_and_other_scripts_stay) {

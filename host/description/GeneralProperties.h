@@ -1,0 +1,12 @@
+#pragma once
+
+#include "TKnownProperty.h"
+
+#include <QVector>
+
+/// What is known of a sample before it is measured: names, places, depths, ages.
+namespace GeneralProperties {
+
+QVector<TKnownProperty> all();
+
+} // namespace GeneralProperties
