@@ -45,8 +45,7 @@ public:
 
 private:
     QString mainPart() {
-        const QString main =
-            XlsxRelations(m_archive, {}, m_errors).partOfType(QLatin1String("officeDocument"));
+        QString main = XlsxRelations(m_archive, {}, m_errors).partOfType(QLatin1String("officeDocument"));
         if (main.endsWith(QLatin1String(".bin"), Qt::CaseInsensitive)) {
             throw m_errors.binaryWorkbook();
         }

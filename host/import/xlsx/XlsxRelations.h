@@ -19,7 +19,6 @@ public:
     /// relations that can't be read.
     XlsxRelations(ZipArchive& archive, const QString& part, const XlsxErrors& errors);
 
-    bool isEmpty() const { return m_relations.isEmpty(); }
     /// Empty if there is none of this name.
     Relation relation(const QString& id) const { return m_relations.value(id); }
     /// The part of this type; empty if there is none.

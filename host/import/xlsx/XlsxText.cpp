@@ -22,18 +22,19 @@ QChar escapedAt(const QString& text, int at) {
     return isCode && !hasPrefix ? QChar(code) : QChar();
 }
 
-/// The runs of the present element up to `most` characters, or some more; the rest is passed over.
-QString joined(XlsxXml& xml, int most) {
-    QString text(QLatin1String(""));
+/// Adds the text runs among the children of the present element, or passes over them once `text` is longer
+/// than `most`. Gives `other` the children that are no text.
+template <class Other>
+void addTexts(XlsxXml& xml, QString& text, int most, const Other& other) {
     while (xml.nextChild()) {
-        const bool isText = xml.name() == QLatin1String("t");
-        if (text.size() > most || (!isText && xml.name() != QLatin1String("r"))) {
+        if (xml.name() != QLatin1String("t")) {
+            other();
+        } else if (text.size() > most) {
             xml.skip();
-            continue;
+        } else {
+            text += unescaped(xml.text());
         }
-        text += isText ? unescaped(xml.text()) : joined(xml, most);
     }
-    return text;
 }
 
 } // namespace
@@ -60,7 +61,14 @@ QString unescaped(const QString& text) {
 }
 
 QString read(XlsxXml& xml, XlsxBudget& budget) {
-    return budget.cut(joined(xml, budget.limits().textLength));
+    QString text(QLatin1String(""));
+    const int most = budget.limits().textLength;
+    const auto pass = [&xml] { xml.skip(); };
+    addTexts(xml, text, most, [&] {
+        const bool isRun = xml.name() == QLatin1String("r");
+        isRun ? addTexts(xml, text, most, pass) : pass();
+    });
+    return budget.cut(text);
 }
 
 } // namespace XlsxText

@@ -17,7 +17,7 @@ constexpr int largeRecordSize = 56;
 constexpr int largeListSizeAt = 40;
 
 template <class Number>
-quint64 numberAt(const QByteArray& archive, quint64 place) {
+quint64 numberAt(const QByteArray& archive, qint64 place) {
     return qFromLittleEndian<Number>(archive.constData() + place);
 }
 
@@ -25,12 +25,12 @@ quint64 numberAt(const QByteArray& archive, quint64 place) {
 quint64 listSize(const QByteArray& archive, int place) {
     const int locator = place - locatorSize;
     if (locator < 0 || archive.mid(locator, 4) != "PK\x06\x07") {
-        return numberAt<quint32>(archive, static_cast<quint64>(place + listSizeAt));
+        return numberAt<quint32>(archive, place + listSizeAt);
     }
-    const quint64 large = numberAt<quint64>(archive, static_cast<quint64>(locator + largePlaceAt));
-    const bool isInside =
-        archive.size() >= largeRecordSize && large <= static_cast<quint64>(archive.size() - largeRecordSize);
-    return isInside ? numberAt<quint64>(archive, large + largeListSizeAt) : 0;
+    const quint64 large = numberAt<quint64>(archive, locator + largePlaceAt);
+    const qint64 last = archive.size() - largeRecordSize;
+    const bool isInside = last >= 0 && large <= static_cast<quint64>(last);
+    return isInside ? numberAt<quint64>(archive, static_cast<qint64>(large) + largeListSizeAt) : 0;
 }
 
 } // namespace

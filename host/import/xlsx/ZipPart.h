@@ -12,7 +12,7 @@ struct zip_file;
 class ZipPart : public QIODevice {
 public:
     /// Between two calls of `endPiece`, in bytes: room for the longest text of a cell, escaped.
-    static constexpr qint64 longestPiece = 512 * 1024;
+    static constexpr qint64 longestPiece = 512LL * 1024;
 
     /// Takes over `file`; `size` is how long it claims to be.
     ZipPart(zip_file* file, const QString& name, qint64 size);

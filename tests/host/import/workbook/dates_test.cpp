@@ -69,46 +69,17 @@ TEST(ExcelFormats, are_told_apart_by_number) {
 }
 
 TEST(ExcelFormats, are_told_apart_by_their_letters) {
-    const struct {
-        const char* code;
-        Kind kind;
-    } cases[] = {
-        {"", Kind::Number},
-        {"General", Kind::Number},
-        {"general\" day\"", Kind::Number},
-        {"0.00", Kind::Number},
-        {"#,##0 \"mm\"", Kind::Number},
-        {"0.00\\m", Kind::Number},
-        {"0.00 m", Kind::Number},
-        {"0.00E+00", Kind::Number},
-        {"# ?/?", Kind::Number},
-        {"[Red]0;[Blue]-0", Kind::Number},
-        {"[$-409]0.0", Kind::Number},
-        {"_-* #,##0_d", Kind::Number},
-        {"@", Kind::Number},
-        {"0;yyyy", Kind::Number},
-        {"\"unclosed yyyy", Kind::Number},
-        {"[unclosed yyyy", Kind::Number},
-        {"\\", Kind::Number},
-        {"dd/mm/yyyy", Kind::Date},
-        {"D.M.YY;@", Kind::Date},
-        {"[$-40C]d mmmm yyyy;@", Kind::Date},
-        {"mmm", Kind::Date},
-        {"mm", Kind::Date},
-        {"yyyy\"h\"", Kind::Date},
-        {"ge.m.d", Kind::Date},
-        {"yyyy-mm-dd hh:mm:ss", Kind::DateTime},
-        {"d/m h AM/PM", Kind::DateTime},
-        {"yyyy\\-mm\\-dd\\Thh:mm:ss.000", Kind::DateTime},
-        {"h:mm A/P", Kind::Time},
-        {"mm:ss.0", Kind::Time},
-        {"hh\"h\"mm", Kind::Time},
-        {"[h]:mm", Kind::Duration},
-        {"[HH]:MM:SS.00", Kind::Duration},
-        {"[ss].00", Kind::Duration},
-        {"[mm]:ss", Kind::Duration},
+    const auto expect = [](Kind kind, const QStringList& codes) {
+        for (const QString& code : codes) {
+            EXPECT_EQ(ExcelFormat::kindOf(code), kind) << qPrintable(code);
+        }
     };
-    for (const auto& [code, kind] : cases) {
-        EXPECT_EQ(ExcelFormat::kindOf(QString(code)), kind) << code;
-    }
+    expect(Kind::Number, {"", "General", "general\" day\"", "0.00", "#,##0 \"mm\"", "0.00\\m", "0.00 m",
+                          "0.00E+00", "# ?/?", "[Red]0;[Blue]-0", "[$-409]0.0", "_-* #,##0_d", "@", "0;yyyy",
+                          "\"unclosed yyyy", "[unclosed yyyy", "\\"});
+    expect(Kind::Date,
+           {"dd/mm/yyyy", "D.M.YY;@", "[$-40C]d mmmm yyyy;@", "mmm", "mm", "yyyy\"h\"", "ge.m.d"});
+    expect(Kind::DateTime, {"yyyy-mm-dd hh:mm:ss", "d/m h AM/PM", "yyyy\\-mm\\-dd\\Thh:mm:ss.000"});
+    expect(Kind::Time, {"h:mm A/P", "mm:ss.0", "hh\"h\"mm"});
+    expect(Kind::Duration, {"[h]:mm", "[HH]:MM:SS.00", "[ss].00", "[mm]:ss"});
 }
