@@ -28,6 +28,7 @@ constexpr int widestPreview = 24 * grid;
 constexpr int widestFact = 28 * grid;
 constexpr int targetWidth = 34 * grid;
 constexpr int rowsMeasured = 60;
+constexpr int columnsMeasured = 200;
 
 template <typename Widget>
 Widget* named(const char* name) {
@@ -59,9 +60,11 @@ QTableView* table(const char* name, QAbstractItemModel& model) {
     return view;
 }
 
+/// A sheet may have thousands of columns; those far to the right keep the usual width.
 void fitColumns(QTableView& view, int widest) {
-    view.resizeColumnsToContents();
-    for (int column = 0; column < view.model()->columnCount(); ++column) {
+    const int count = std::min(view.model()->columnCount(), columnsMeasured);
+    for (int column = 0; column < count; ++column) {
+        view.resizeColumnToContents(column);
         view.setColumnWidth(column, std::clamp(view.columnWidth(column), narrowest, widest));
     }
 }
@@ -112,13 +115,13 @@ AsciiImportWizardDialog::AsciiImportWizardDialog(ImportDraft& draft, const QStri
     resize(wanted);
 }
 
-void AsciiImportWizardDialog::buildChoices(QGridLayout& grid) {
-    grid.setHorizontalSpacing(margin);
-    grid.setVerticalSpacing(::grid / 2);
+void AsciiImportWizardDialog::buildChoices(QGridLayout& layout) {
+    layout.setHorizontalSpacing(margin);
+    layout.setVerticalSpacing(grid / 2);
     int column = 0;
     const auto add = [&](const QString& text, QWidget* widget) {
-        grid.addWidget(caption(text, widget), 0, column);
-        grid.addWidget(widget, 1, column++);
+        layout.addWidget(caption(text, widget), 0, column);
+        layout.addWidget(widget, 1, column++);
     };
     add(tr("&Sheet", "&Feuille"), m_sheet);
     add(tr("&Header row", "Ligne d'&en-tête"), m_headerRow);
@@ -128,8 +131,8 @@ void AsciiImportWizardDialog::buildChoices(QGridLayout& grid) {
     add(tr("Samples are &named by", "&Noms pris dans"), m_identifier);
     m_headerRows->setToolTip(tr("How many rows the header takes; the names in them are joined downward",
                                 "Combien de lignes prend l'en-tête ; les noms y sont joints vers le bas"));
-    grid.setColumnStretch(0, 1);
-    grid.setColumnStretch(column - 1, 1);
+    layout.setColumnStretch(0, 1);
+    layout.setColumnStretch(column - 1, 1);
     for (QSpinBox* rowless : {m_headerRow, m_unitsRow}) {
         rowless->setSpecialValueText(tr("none", "aucune"));
     }
@@ -221,6 +224,8 @@ void AsciiImportWizardDialog::showTable() {
     fitColumns(*m_columnsView, widestFact);
     m_columnsView->setColumnWidth(ColumnListModel::Target, targetWidth);
     fitColumns(*m_previewView, widestPreview);
+    const int topRow = std::max(m_draft.mapping().layout.headerRow, 0);
+    m_previewView->scrollTo(m_preview.index(topRow, 0), QAbstractItemView::PositionAtTop);
     m_columnsView->selectRow(0);
     showEdit();
 }

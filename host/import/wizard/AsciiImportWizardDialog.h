@@ -25,7 +25,7 @@ public:
     AsciiImportWizardDialog(ImportDraft& draft, const QString& fileName, QWidget* parent);
 
 private:
-    void buildChoices(QGridLayout& grid);
+    void buildChoices(QGridLayout& layout);
     QWidget* buildColumns();
     QWidget* buildPreview();
     QWidget* buildFoot();

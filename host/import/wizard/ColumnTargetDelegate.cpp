@@ -31,6 +31,7 @@ QWidget* ColumnTargetDelegate::createEditor(QWidget* parent, const QStyleOptionV
         }
     }
     box->setMaxVisibleItems(mostVisibleChoices);
+    // Editors are made in a const operation, and what they send at the end is not one.
     auto* self = const_cast<ColumnTargetDelegate*>(this); // NOLINT(cppcoreguidelines-pro-type-const-cast)
     connect(box, QOverload<int>::of(&QComboBox::activated), self, [self, box] { self->finish(box); });
     QTimer::singleShot(0, box, &QComboBox::showPopup);

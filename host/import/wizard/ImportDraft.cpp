@@ -6,7 +6,6 @@
 #include "LayoutGuess.h"
 #include "MappedTable.h"
 #include "VKDataModelGeneric.h"
-#include "Workbook.h"
 
 #include <algorithm>
 

@@ -7,15 +7,12 @@
 #include "IdentifierCheck.h"
 #include "ImportMapping.h"
 #include "MappingMemory.h"
+#include "Workbook.h"
 
 #include <memory>
 
 class AsciiImportWizardStrategy;
 class VKDataModelGeneric;
-
-namespace Workbook {
-struct Sheet;
-}
 
 /// A mapping while a person edits it, and all that follows from it. What was chosen for the same headers
 /// before is proposed, else what is guessed. Refers to sheets and strategy; there is at least one sheet.
