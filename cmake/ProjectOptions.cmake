@@ -38,8 +38,10 @@ if(VORN_COVERAGE)
     add_link_options(--coverage)
 endif()
 
-# Warnings belong to the project's own targets; users of the installed headers choose theirs.
+# Warnings belong to the project's own targets; users of the installed headers choose theirs. One of newer
+# versions of GCC takes every reference from a function with a temporary argument for a reference to that.
 add_library(vorn_warnings INTERFACE)
 target_compile_options(vorn_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_GREATER_EQUAL:$<CXX_COMPILER_VERSION>,13>>:-Wno-dangling-reference>
     $<$<BOOL:${VORN_WARNINGS_AS_ERRORS}>:-Werror>)

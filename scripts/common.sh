@@ -16,6 +16,8 @@ cd "$root"
 build_packages=(cmake ninja-build g++ ccache rapidjson-dev libcli11-dev libssl-dev)
 # shellcheck disable=SC2034
 desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite qttools5-dev libqwt-qt5-dev libzip-dev fonts-dejavu-core)
+# shellcheck disable=SC2034
+test_packages=(libgtest-dev libxlsxwriter-dev)
 
 say() { printf '==> %s\n' "$*"; }
 
@@ -87,6 +89,7 @@ usable() {
         libcli11-dev) header CLI/CLI.hpp ;;
         libssl-dev) header openssl/evp.h ;;
         libgtest-dev) header gtest/gtest.h ;;
+        libxlsxwriter-dev) header xlsxwriter.h ;;
         qtbase5-dev) cmake_runs 'find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui PrintSupport Sql Test Widgets)' ;;
         libqt5svg5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Svg)' ;;
         libqt5sql5-sqlite) sqlite_driver ;;

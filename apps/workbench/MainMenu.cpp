@@ -1,5 +1,6 @@
 #include "MainMenu.h"
 
+#include "ImportModules.h"
 #include "LanguageSwitch.h"
 #include "LookSwitch.h"
 #include "MainWindow.h"
@@ -18,13 +19,19 @@
 #include <QMessageBox>
 #include <QToolButton>
 
-MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, QualityCheck& qualityCheck,
-                   LanguageSwitch& language, LookSwitch& look)
+MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, ImportModules& imports,
+                   QualityCheck& qualityCheck, LanguageSwitch& language, LookSwitch& look)
     : QObject(&window), m_window(window), m_project(window.menuBar()->addMenu(QString())),
-      m_objects(window.menuBar()->addMenu(QString())), m_check(window.menuBar()->addMenu(QString())),
+      m_objects(window.menuBar()->addMenu(QString())), m_modules(window.menuBar()->addMenu(QString())),
       m_view(window.menuBar()->addMenu(QString())), m_languages(new QMenu(&window)),
       m_looks(new QMenu(&window)), m_help(window.menuBar()->addMenu(QString())),
       m_languageChoice(new QActionGroup(this)), m_lookChoice(new QActionGroup(this)),
+      m_sourceRock(action(QStringLiteral("modules/vorn_2015/Vorn_SourceRock_Import"),
+                          QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_R))),
+      m_gas(action(QStringLiteral("modules/vorn_2015/Vorn_Isotopes"),
+                   QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_G))),
+      m_custom(action(QStringLiteral("modules/vorn_2015/Vorn_CustomImport"),
+                      QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_U))),
       m_qualityCheck(action(QStringLiteral("modules/vorn_2015/Vorn_SourceRock_QAQC"),
                             QKeySequence(Qt::CTRL + Qt::Key_Q + Qt::SHIFT))),
       m_export(action(QStringLiteral("export"))),
@@ -32,7 +39,8 @@ MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, QualityC
       m_quit(action(QStringLiteral("close_project"), QKeySequence::Quit)),
       m_guide(action(QStringLiteral("help"), QKeySequence::HelpContents)),
       m_about(action(QStringLiteral("info"))) {
-    buildMenus(projects, qualityCheck);
+    buildMenus(projects);
+    connectModules(imports, qualityCheck);
     buildStartBar(projects);
     buildLanguages(language);
     buildLooks(look);
@@ -45,7 +53,7 @@ QAction* MainMenu::action(const QString& icon, const QKeySequence& shortcut) {
     return made;
 }
 
-void MainMenu::buildMenus(const ProjectCommands& projects, QualityCheck& qualityCheck) {
+void MainMenu::buildMenus(const ProjectCommands& projects) {
     m_project->addActions({projects.newAction(), projects.openAction()});
     m_project->addMenu(projects.recentMenu());
     m_project->addActions({projects.exampleAction(), projects.backupAction()});
@@ -59,17 +67,28 @@ void MainMenu::buildMenus(const ProjectCommands& projects, QualityCheck& quality
     m_objects->addSeparator();
     m_objects->addAction(m_find);
 
-    m_check->addActions({m_qualityCheck, m_export});
+    m_modules->addActions({m_sourceRock, m_gas, m_custom});
+    m_modules->addSeparator();
+    m_modules->addActions({m_qualityCheck, m_export});
     m_view->addMenu(m_languages);
     m_view->addMenu(m_looks);
     m_help->addActions({m_guide, m_about});
 
     connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
     connect(m_find, &QAction::triggered, &m_window.tree(), &ProjectTree::focusFilter);
-    connect(m_qualityCheck, &QAction::triggered, &qualityCheck, &QualityCheck::start);
-    connect(m_export, &QAction::triggered, &qualityCheck, &QualityCheck::exportForLearning);
     connect(m_guide, &QAction::triggered, this, [this] { emit helpRequested(0); });
     connect(m_about, &QAction::triggered, this, &MainMenu::showAbout);
+}
+
+void MainMenu::connectModules(ImportModules& imports, QualityCheck& qualityCheck) {
+    const auto tie = [&imports](const QAction* entry, ImportModules::Kind kind) {
+        connect(entry, &QAction::triggered, &imports, [&imports, kind] { imports.start(kind); });
+    };
+    tie(m_sourceRock, ImportModules::Kind::SourceRock);
+    tie(m_gas, ImportModules::Kind::Gas);
+    tie(m_custom, ImportModules::Kind::Custom);
+    connect(m_qualityCheck, &QAction::triggered, &qualityCheck, &QualityCheck::start);
+    connect(m_export, &QAction::triggered, &qualityCheck, &QualityCheck::exportForLearning);
 }
 
 void MainMenu::buildStartBar(const ProjectCommands& projects) {
@@ -82,7 +101,9 @@ void MainMenu::buildStartBar(const ProjectCommands& projects) {
     m_projectGroup->addActionButton(projects.exampleAction());
     m_projectGroup->addActionButton(projects.backupAction());
     m_moduleGroup = bar->addGroup({});
-    m_moduleGroup->addActionButton(m_qualityCheck);
+    for (QAction* const module : {m_sourceRock, m_gas, m_custom, m_qualityCheck}) {
+        m_moduleGroup->addActionButton(module);
+    }
     m_helpGroup = bar->addGroup({});
     m_helpGroup->addActionButton(m_guide);
 }
@@ -122,7 +143,7 @@ void MainMenu::buildLooks(LookSwitch& look) {
 void MainMenu::translate() {
     m_project->setTitle(tr("&Project", "&Projet"));
     m_objects->setTitle(tr("&Data", "&Données"));
-    m_check->setTitle(tr("&Quality check", "Contrôle &qualité"));
+    m_modules->setTitle(tr("&Modules", "&Modules"));
     m_view->setTitle(tr("&View", "&Affichage"));
     m_languages->setTitle(tr("&Language", "&Langue"));
     m_looks->setTitle(tr("L&ook", "Appa&rence"));
@@ -133,6 +154,15 @@ void MainMenu::translate() {
     m_projectGroup->setTitle(tr("Project", "Projet"));
     m_moduleGroup->setTitle(tr("Modules", "Modules"));
     m_helpGroup->setTitle(tr("Help", "Aide"));
+    m_sourceRock->setText(tr("Source rock import", "Import roche mère"));
+    m_sourceRock->setToolTip(tr("Bring raw Rock-Eval files and tables of source rocks into the project",
+                                "Importer des fichiers Rock-Eval bruts et des tableaux de roches mères"));
+    m_gas->setText(tr("Gas import", "Import gaz"));
+    m_gas->setToolTip(
+        tr("Bring tables of gas analyses into the project", "Importer des tableaux d'analyses de gaz"));
+    m_custom->setText(tr("Custom import", "Import personnalisé"));
+    m_custom->setToolTip(
+        tr("Bring tables of any columns into the project", "Importer des tableaux de colonnes quelconques"));
     m_qualityCheck->setText(tr("Quality check", "Contrôle qualité"));
     m_qualityCheck->setToolTip(
         tr("Grade analyses as good, double or flat", "Évaluer les analyses : bonne, double ou plate"));

@@ -3,6 +3,7 @@
 #include <QKeySequence>
 #include <QObject>
 
+class ImportModules;
 class LanguageSwitch;
 class LookSwitch;
 class MainWindow;
@@ -19,8 +20,8 @@ class MainMenu : public QObject {
 
 public:
     /// All of them outlive this object, which belongs to the window.
-    MainMenu(MainWindow& window, const ProjectCommands& projects, QualityCheck& qualityCheck,
-             LanguageSwitch& language, LookSwitch& look);
+    MainMenu(MainWindow& window, const ProjectCommands& projects, ImportModules& imports,
+             QualityCheck& qualityCheck, LanguageSwitch& language, LookSwitch& look);
 
 public slots:
     void translate();
@@ -30,7 +31,8 @@ signals:
 
 private:
     QAction* action(const QString& icon, const QKeySequence& shortcut = {});
-    void buildMenus(const ProjectCommands& projects, QualityCheck& qualityCheck);
+    void buildMenus(const ProjectCommands& projects);
+    void connectModules(ImportModules& imports, QualityCheck& qualityCheck);
     void buildStartBar(const ProjectCommands& projects);
     void buildLanguages(LanguageSwitch& language);
     void buildLooks(LookSwitch& look);
@@ -39,13 +41,16 @@ private:
     MainWindow& m_window;
     QMenu* m_project;
     QMenu* m_objects;
-    QMenu* m_check;
+    QMenu* m_modules;
     QMenu* m_view;
     QMenu* m_languages;
     QMenu* m_looks;
     QMenu* m_help;
     QActionGroup* m_languageChoice;
     QActionGroup* m_lookChoice;
+    QAction* m_sourceRock;
+    QAction* m_gas;
+    QAction* m_custom;
     QAction* m_qualityCheck;
     QAction* m_export;
     QAction* m_find;

@@ -1,6 +1,7 @@
 #include "ProjectMgr.h"
 
 #include "TDatabase.h"
+#include "VKDatabaseImport.h"
 #include "VKError.h"
 
 #include <QDir>
@@ -33,7 +34,12 @@ TechDB::TDatabase* ProjectMgr::projectDatabase() const {
 }
 
 VKDatabaseImport* ProjectMgr::importDatabase() const {
-    return nullptr; // no module of this application imports yet
+    if (m_import == nullptr && m_project != nullptr) {
+        const QFileInfo project(m_project->path());
+        m_import = VKDatabaseImport::open(
+            project.dir().filePath(project.completeBaseName() + QStringLiteral(".import")));
+    }
+    return m_import.get();
 }
 
 void ProjectMgr::open(const QString& path) {
@@ -72,6 +78,7 @@ void ProjectMgr::close() {
         return;
     }
     emit closing();
+    m_import.reset();
     m_project.reset();
     emit opened(nullptr);
 }

@@ -17,6 +17,8 @@ public:
     ~ProjectMgr() override;
 
     TechDB::TDatabase* projectDatabase() const override;
+    /// Lies in a folder beside the project ("lab.import" beside "lab.vornproj"), made when it is first asked
+    /// for. Throws VKError if it can't be.
     VKDatabaseImport* importDatabase() const override;
 
     /// Opens a project in the place of the present one, which stays open if that fails: throws VKError.
@@ -43,4 +45,5 @@ private:
     static void remember(const QString& path);
 
     std::unique_ptr<TechDB::TDatabase> m_project;
+    mutable std::unique_ptr<VKDatabaseImport> m_import;
 };

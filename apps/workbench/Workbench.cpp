@@ -12,9 +12,9 @@
 
 Workbench::Workbench()
     : m_window(m_log), m_ribbon(m_window.ribbon()), m_application(m_window), m_launcher(m_window.workspace()),
-      m_qualityCheck(m_ribbon, m_launcher, m_window.workspace()),
+      m_imports(m_ribbon, m_launcher), m_qualityCheck(m_ribbon, m_launcher, m_window.workspace()),
       m_projectCommands(m_projects, m_launcher, m_window), m_objectCommands(m_launcher, m_window),
-      m_menu(new MainMenu(m_window, m_projectCommands, m_qualityCheck, m_language, m_look)) {
+      m_menu(new MainMenu(m_window, m_projectCommands, m_imports, m_qualityCheck, m_language, m_look)) {
     MessageLoggerInterface::setDefaultLogger(&m_log);
     wireProject();
     wireTree();

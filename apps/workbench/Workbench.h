@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ApplicationHost.h"
+#include "ImportModules.h"
 #include "LanguageSwitch.h"
 #include "LookSwitch.h"
 #include "MainWindow.h"
@@ -27,6 +28,7 @@ public:
     MessageLogModel& log() { return m_log; }
     ProjectMgr& projects() { return m_projects; }
     ProjectCommands& projectCommands() { return m_projectCommands; }
+    ImportModules& imports() { return m_imports; }
     QualityCheck& qualityCheck() { return m_qualityCheck; }
     LanguageSwitch& language() { return m_language; }
     LookSwitch& look() { return m_look; }
@@ -46,6 +48,7 @@ private:
     ApplicationHost m_application;
     ProjectMgr m_projects;
     ModuleLauncher m_launcher;
+    ImportModules m_imports;
     QualityCheck m_qualityCheck;
     ProjectCommands m_projectCommands;
     ObjectCommands m_objectCommands;

@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr int deepest = 8;
+
 QString shortened(const QString& message) {
     if (message.size() <= MessageText::maxLength) {
         return message;
@@ -102,7 +104,7 @@ void MessageText::breakLine() {
 }
 
 bool MessageText::toggle(QChar element, bool opens) {
-    if (opens ? m_open.contains(element) : !m_open.endsWith(element)) {
+    if (opens ? m_open.size() == deepest : !m_open.endsWith(element)) {
         return false;
     }
     if (opens) {

@@ -36,7 +36,8 @@ TEST(MessageText, elements_are_balanced_whatever_comes_in) {
     EXPECT_EQ(rich("<b>open"), "<b>open</b>");
     EXPECT_EQ(rich("</b>stray"), "&lt;/b&gt;stray");
     EXPECT_EQ(rich("<b><i>x</b>y</i>"), "<b><i>x&lt;/b&gt;y</i></b>");
-    EXPECT_EQ(rich("<b><b>twice</b>"), "<b>&lt;b&gt;twice</b>");
+    EXPECT_EQ(rich("<b><b>one</b>, <b>two</b></b>"), "<b><b>one</b>, <b>two</b></b>");
+    EXPECT_EQ(rich(QString("<i>").repeated(9)).rfind("&lt;i&gt;"), 8 * 3U) << "eight are enough";
 }
 
 TEST(MessageText, a_long_message_ends_in_an_ellipsis_and_no_half_character) {
