@@ -68,20 +68,24 @@ void TDataEditor2Ctrl::store(const QAbstractItemModel* model, const QString& dat
 }
 
 DatasetWriter& TDataEditor2Ctrl::writerFor(TechDB::TDatabase& database) {
-    if (m_whyNotBegun) { // each attempt would wait as long as the first
-        throw VKError(*m_whyNotBegun);
-    }
     if (!m_writer) {
-        try {
-            m_writer = std::make_unique<DatasetWriter>(database);
-        } catch (const VKError& error) {
-            m_whyNotBegun = error.text();
-            throw;
-        }
+        m_writer = begun(database);
     }
     if (m_writer->database() != &database) {
         throw VKError(tr("What is saved together can't go to two projects.",
                          "Ce qui est enregistré ensemble ne peut pas aller dans deux projets."));
     }
     return *m_writer;
+}
+
+std::unique_ptr<DatasetWriter> TDataEditor2Ctrl::begun(TechDB::TDatabase& database) {
+    if (m_whyNotBegun) { // each attempt would wait as long as the first
+        throw VKError(*m_whyNotBegun);
+    }
+    try {
+        return std::make_unique<DatasetWriter>(database);
+    } catch (const VKError& error) {
+        m_whyNotBegun = error.text();
+        throw;
+    }
 }

@@ -50,6 +50,7 @@ private:
     void store(const QAbstractItemModel* model, const QString& dataset, const QString& sample, int role,
                TechDB::TDatabase* database);
     DatasetWriter& writerFor(TechDB::TDatabase& database);
+    std::unique_ptr<DatasetWriter> begun(TechDB::TDatabase& database);
 
     std::unique_ptr<DatasetWriter> m_writer;
     std::optional<QString> m_whyNotBegun;

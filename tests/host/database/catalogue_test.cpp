@@ -43,8 +43,7 @@ protected:
             working.addEIC("none", none);
         }
         const QString compound = addCompound(name)->recordId();
-        const QString formula =
-            QStringLiteral("[%1]").arg(working.addPair(compound, "none", none)->recordKey());
+        QString formula = QStringLiteral("[%1]").arg(working.addPair(compound, "none", none)->recordKey());
         EXPECT_NE(addParameter(name, formula), nullptr);
         return formula;
     }
