@@ -78,7 +78,7 @@ QByteArray headOf(const QString& path) {
                                     "le fichier ne peut pas être ouvert (%1) ; vérifiez ses permissions")
                    .arg(file.errorString().toHtmlEscaped()));
     }
-    const QByteArray head = file.read(RawFileKind::headSize);
+    QByteArray head = file.read(RawFileKind::headSize);
     if (file.error() != QFileDevice::NoError) {
         refuse(ImportRockEvalVI::tr(
                    "the file can't be read (%1); check the drive and copy the file again",

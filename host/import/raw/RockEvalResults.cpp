@@ -34,7 +34,7 @@ QVariant valueCell(const std::string& text) {
 }
 
 QString rowName(const rockeval::ResultSection& section, const rockeval::ResultEntry& entry) {
-    const QString key = QString::fromStdString(entry.key);
+    QString key = QString::fromStdString(entry.key);
     if (section.name.empty()) {
         return key;
     }

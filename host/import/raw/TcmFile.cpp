@@ -5,7 +5,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QSaveFile>
+#include <QFile>
 #include <QtEndian>
 
 #include <limits>
@@ -141,6 +141,7 @@ TcmFile TcmFile::decoded(const QByteArray& bytes, const QString& path) {
     const QString analysisType = parts.text();
     parts.expect(version == presentVersion && parts.number() == channelCount);
     const quint32 points = parts.number();
+    parts.expect(points > 0);
     std::vector<float> x = parts.channel(points);
     std::vector<float> y = parts.channel(points);
     parts.expectEnd();
@@ -182,8 +183,13 @@ void TcmFile::write(const QString& path) const {
     if (bytes.size() > TFileBuffer::maxSize) { // it could not be read again
         refuseWriting(tr("it is too large", "elle est trop grande"));
     }
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         refuseWriting(file.errorString().toHtmlEscaped());
+    }
+    if (file.write(bytes) != bytes.size()) {
+        const QString reason = file.errorString().toHtmlEscaped();
+        file.remove();
+        refuseWriting(reason);
     }
 }

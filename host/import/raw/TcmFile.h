@@ -25,10 +25,12 @@ public:
     /// The content of a file's bytes; `path` serves the messages only. Throws as `read` does.
     static TcmFile decoded(const QByteArray& bytes, const QString& path);
 
+    /// The bytes of a file. The curve must have points.
     QByteArray encoded() const;
 
-    /// Writes a file in the place of one that may lie there, which stays as it is if this fails. Throws a
-    /// VKError that names the file and the cause.
+    /// Writes a file in the place of one that may lie there. Nobody may read it meanwhile: it is whole when
+    /// this returns, and doesn't wait for the disk, as the curve can be imported again. Throws a VKError that
+    /// names the file and the cause; then there is no file.
     void write(const QString& path) const;
 
     /// What the analysis was measured for.

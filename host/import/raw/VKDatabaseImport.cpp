@@ -227,7 +227,7 @@ QString VKDatabaseImport::givenOut(const QString& wanted) {
     }
     removeUnreadable(wanted);
     const AnalysisStore store(connection());
-    const QString name = TechDB::NumberedName::firstFree(wanted, [&](const QString& candidate) {
+    QString name = TechDB::NumberedName::firstFree(wanted, [&](const QString& candidate) {
         return store.byName(candidate).has_value() || reservations.contains(candidate);
     });
     reservations.add(name, m_session->id());

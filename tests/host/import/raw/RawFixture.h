@@ -1,19 +1,15 @@
 #pragma once
 
-#include "ImportRockEvalVI.h"
+#include "ImportSteps.h"
 #include "MessageCollector.h"
-#include "VKDatabaseImport.h"
 #include "VKError.h"
-#include "VKObject2Analysis.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-/// A folder with a project and an import database, and the four steps that bring a curve from the one to the
-/// other as the module takes them.
+/// A folder with a project and an import database.
 class RawTest : public testing::Test {
 protected:
     RawTest() {
@@ -26,42 +22,18 @@ protected:
 
     QString write(const QString& name, const QByteArray& bytes) const {
         QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(bytes), bytes.size());
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
         return file.fileName();
     }
 
-    static QByteArray bytesOf(const QString& file) {
-        QFile opened(file);
-        return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("unreadable");
-    }
-
-    static QString tcmPath(const VKDatabaseImport& database, const QString& name) {
-        const QString separator = QDir::separator();
-        return database.rootFolder() + separator + VKObject2Analysis::folderName() + separator + name +
-               separator + name + ".tcm";
-    }
-
-    /// The first three steps; null where one of them failed.
-    static const VKObject2Analysis* imported(VKDatabaseImport& database, QString name, std::vector<float> x,
-                                             std::vector<float> y) {
-        const bool named = database.addNewAnalysisPath(name, false);
-        const bool written = named && database.writeAnalysisFile(
-                                          tcmPath(database, name), {x.data(), y.data()},
-                                          static_cast<int>(x.size()), 0, 1, "Source Rock QAQC", nullptr);
-        return written && database.analysisObjectSave(name) ? database.getAnalysis(name) : nullptr;
-    }
-
     const VKObject2Analysis* imported(const QString& name, float height = 3.0F) {
-        return imported(*imports, name, {0.0F, 1.0F, 2.0F}, {1.0F, height, 1.0F});
+        return ImportSteps::imported(*imports, name, {1.0F, height, 1.0F});
     }
-
-    /// All four steps.
     bool stored(const QString& name, float height = 3.0F) {
         return imports->objectPush(project.get(), imported(name, height));
     }
 
-    QStringList names(const TechDB::TDatabase& database) const {
+    static QStringList names(const TechDB::TDatabase& database) {
         QStringList list;
         for (const TechDB::AnalysisInfo& info : database.analyses()) {
             list.append(info.name);
@@ -69,7 +41,12 @@ protected:
         return list;
     }
 
-    std::string errors() const { return log.messages(MessageLevel::Error).join('|').toStdString(); }
+    /// The messages of one level since this was asked last.
+    std::string told(MessageLevel level = MessageLevel::Error) {
+        const std::string text = log.messages(level).join('|').toStdString();
+        log.clear();
+        return text;
+    }
 
     QTemporaryDir folder;
     MessageCollector log;
@@ -79,8 +56,7 @@ protected:
 
 /// Succeeds if `text` holds `part`.
 inline testing::AssertionResult says(const std::string& text, const std::string& part) {
-    if (text.find(part) != std::string::npos) {
-        return testing::AssertionSuccess();
-    }
-    return testing::AssertionFailure() << "\"" << text << "\" doesn't say \"" << part << "\"";
+    const bool found = text.find(part) != std::string::npos;
+    return (found ? testing::AssertionSuccess() : testing::AssertionFailure())
+           << '"' << text << "\" has to say \"" << part << '"';
 }
