@@ -63,11 +63,16 @@ ColumnMatcher::Match ColumnMatcher::match(const ColumnHeader& header) const {
         if (text.size() > longestName) {
             continue;
         }
+        Match best;
         for (const Name& name : readings(text, header.unit)) {
             const Match found = find(name, group);
-            if (found.property != Match::none || found.otherUnit != Match::none) {
+            if (found.property != Match::none) {
                 return found;
             }
+            best = best.otherUnit == Match::none ? found : best;
+        }
+        if (best.otherUnit != Match::none) {
+            return best;
         }
     }
     return {};
@@ -76,23 +81,23 @@ ColumnMatcher::Match ColumnMatcher::match(const ColumnHeader& header) const {
 bool ColumnMatcher::fits(int property, const ColumnHeader& header) const {
     const Bracketed last = split(header.levels.isEmpty() ? QString() : header.levels.last());
     const QString unit = header.unit.isEmpty() && isUnit(last.inside) ? last.inside : header.unit;
-    return hasUnit(property, UnitText::plain(unit));
+    return hasUnit(property, UnitText::plain(unit)) && match(header).otherUnit != property;
 }
 
 QVector<ColumnMatcher::Name> ColumnMatcher::readings(const QString& text, const QString& unit) const {
     QVector<Name> names;
     const Bracketed parts = split(text);
     if (isUnit(parts.inside)) {
-        names += {parts.before, unit.isEmpty() ? parts.inside : unit, true};
+        names += {parts.before, unit.isEmpty() ? parts.inside : unit};
         return names;
     }
-    names += {text, unit, true};
+    names += {text, unit};
     static const QRegularExpression gap(QStringLiteral("[\\s,;_]+"));
     const int start = text.indexOf(gap);
     for (int place = start; place > 0; place = text.indexOf(gap, place + 1)) {
         const QString end = text.mid(place + 1);
         if (isUnit(end)) {
-            names += {text.left(place), end, false};
+            names += {text.left(place), end};
         }
     }
     return names;
@@ -110,7 +115,7 @@ ColumnMatcher::Match ColumnMatcher::find(const Name& name, const QString& group)
         if (hasUnit(property, unit)) {
             return {property, Match::none};
         }
-        if (name.isSure && found.otherUnit == Match::none) {
+        if (found.otherUnit == Match::none) {
             found.otherUnit = property;
         }
     }

@@ -33,7 +33,6 @@ private:
     struct Name {
         QString text;
         QString unit;
-        bool isSure = true; ///< that the text ends where its unit begins
     };
 
     QVector<Name> readings(const QString& text, const QString& unit) const;

@@ -61,6 +61,7 @@ TEST(ColumnMatcher, tells_a_property_in_another_unit_apart) {
     EXPECT_EQ(found("TOC (g/kg)"), "≠TOC");
     EXPECT_EQ(found("TOC", "‰"), "≠TOC");
     EXPECT_EQ(found("C1 (‰)"), "≠C1");
+    EXPECT_EQ(found("Tmax, °F"), "≠Tmax");
     EXPECT_EQ(found("TOC (%)", "g/kg"), "≠TOC") << "the units row holds where both tell";
     EXPECT_EQ(found("TOC", "-"), "TOC");
 }
