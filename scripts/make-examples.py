@@ -263,7 +263,7 @@ def all_files():
 
 
 def differences(files):
-    here = {path.name for path in FOLDER.iterdir()} if FOLDER.is_dir() else set()
+    here = {path.name for path in FOLDER.iterdir() if path.is_file()} if FOLDER.is_dir() else set()
     found = ["%s: missing" % name for name in files if name not in here]
     found += ["%s: not made by this script" % name for name in here - files.keys()]
     found += ["%s: differs" % name for name in here & files.keys()

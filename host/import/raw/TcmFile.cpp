@@ -5,7 +5,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
+#include <QSaveFile>
 #include <QtEndian>
 
 #include <limits>
@@ -183,13 +183,8 @@ void TcmFile::write(const QString& path) const {
     if (bytes.size() > TFileBuffer::maxSize) { // it could not be read again
         refuseWriting(tr("it is too large", "elle est trop grande"));
     }
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
         refuseWriting(file.errorString().toHtmlEscaped());
-    }
-    if (file.write(bytes) != bytes.size()) {
-        const QString reason = file.errorString().toHtmlEscaped();
-        file.remove();
-        refuseWriting(reason);
     }
 }

@@ -28,9 +28,8 @@ public:
     /// The bytes of a file. The curve must have points.
     QByteArray encoded() const;
 
-    /// Writes a file in the place of one that may lie there. Nobody may read it meanwhile: it is whole when
-    /// this returns, and doesn't wait for the disk, as the curve can be imported again. Throws a VKError that
-    /// names the file and the cause; then there is no file.
+    /// Writes a file, whole or not at all, in the place of one that may lie there. Throws a VKError that names
+    /// the file and the cause.
     void write(const QString& path) const;
 
     /// What the analysis was measured for.

@@ -1,12 +1,12 @@
 #include "VKDatabaseImport.h"
 
 #include "AnalysisStore.h"
+#include "DatabaseFile.h"
 #include "ImportSession.h"
 #include "ImportedName.h"
 #include "MessageLoggerInterface.h"
 #include "NameReservations.h"
 #include "NumberedName.h"
-#include "DatabaseFile.h"
 #include "SqlConnection.h"
 #include "TcmFile.h"
 #include "Transaction.h"

@@ -22,9 +22,9 @@ class TcmFile;
 /// The same name with the same curve is the same analysis. The same name with another curve gets a number
 /// behind it; an analysis is never replaced. Several windows may have one folder open.
 ///
-/// What is here can be imported again. So a commit and a file wait for no disk: they survive the end of a
-/// program at any moment, and an index is never half written, but a loss of power may take the last ones, or
-/// damage a file, which is then noticed when it is read.
+/// What is here can be imported again. So the index waits for no disk: it survives the end of a program at
+/// any moment and is never half written, but a loss of power may take its last rows. A file is whole or not
+/// there.
 class VKDatabaseImport : public TechDB::TDatabase {
     Q_OBJECT
 
