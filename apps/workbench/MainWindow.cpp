@@ -2,6 +2,7 @@
 
 #include "LogPanel.h"
 #include "ProjectTree.h"
+#include "TBarCaption.h"
 #include "VKRibbon.h"
 #include "Workspace.h"
 
@@ -11,6 +12,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -24,7 +26,8 @@ constexpr int smallestLog = 112;
 
 MainWindow::MainWindow(MessageLogModel& log)
     : m_ribbon(new VKRibbon), m_tree(new ProjectTree), m_workspace(new Workspace), m_log(new LogPanel(log)),
-      m_columns(new QSplitter(Qt::Horizontal)), m_rows(new QSplitter(Qt::Vertical)) {
+      m_columns(new QSplitter(Qt::Horizontal)), m_rows(new QSplitter(Qt::Vertical)),
+      m_status(new TBarCaption(Qt::ElideMiddle, this, Qt::AlignLeft)) {
     m_columns->setObjectName(QStringLiteral("columns"));
     m_rows->setObjectName(QStringLiteral("rows"));
     m_tree->setMinimumWidth(smallestTree);
@@ -48,10 +51,15 @@ MainWindow::MainWindow(MessageLogModel& log)
     rows->addWidget(m_ribbon);
     rows->addWidget(m_columns, 1);
     setCentralWidget(content);
+    statusBar()->addWidget(m_status, 1);
     restore();
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::showStatus(const QString& text) {
+    m_status->setText(text);
+}
 
 void MainWindow::restore() {
     const QSettings settings;

@@ -8,6 +8,7 @@ class LogPanel;
 class MessageLogModel;
 class ProjectTree;
 class QSplitter;
+class TBarCaption;
 class VKRibbon;
 class Workspace;
 
@@ -26,6 +27,9 @@ public:
     Workspace& workspace() const { return *m_workspace; }
     LogPanel& log() const { return *m_log; }
 
+    /// What the status bar says while nothing else is going on there.
+    void showStatus(const QString& text);
+
     /// Asked before the window closes; false keeps it open.
     void setCloseGuard(std::function<bool()> guard) { m_mayClose = std::move(guard); }
 
@@ -42,5 +46,6 @@ private:
     LogPanel* m_log;
     QSplitter* m_columns;
     QSplitter* m_rows;
+    TBarCaption* m_status;
     std::function<bool()> m_mayClose;
 };

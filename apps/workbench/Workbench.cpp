@@ -7,6 +7,7 @@
 #include "VKObject2.h"
 #include "Workspace.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 
@@ -62,5 +63,6 @@ void Workbench::showTitle() {
     const TechDB::TDatabase* const project = m_projects.projectDatabase();
     const QString name =
         project == nullptr ? tr("no project", "aucun projet") : QFileInfo(project->path()).completeBaseName();
+    m_window.showStatus(project == nullptr ? QString() : QDir::toNativeSeparators(project->path()));
     m_window.setWindowTitle(tr("%1 – Vorn workbench", "%1 – Atelier Vorn").arg(name));
 }

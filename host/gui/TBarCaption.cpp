@@ -10,7 +10,8 @@ constexpr int margin = 8;
 
 } // namespace
 
-TBarCaption::TBarCaption(Qt::TextElideMode elide, QWidget* parent) : QWidget(parent), m_elide(elide) {
+TBarCaption::TBarCaption(Qt::TextElideMode elide, QWidget* parent, Qt::Alignment alignment)
+    : QWidget(parent), m_elide(elide), m_alignment(alignment | Qt::AlignVCenter) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 
@@ -25,6 +26,6 @@ void TBarCaption::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(TavrelColors::caption(palette()));
     const QRect room = rect().adjusted(margin, 0, -margin, 0);
-    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
+    painter.drawText(room, static_cast<int>(m_alignment) | Qt::TextSingleLine,
                      fontMetrics().elidedText(m_text, m_elide, room.width()));
 }

@@ -2,13 +2,13 @@
 
 #include <QWidget>
 
-// A line of plain text at the end of a tool bar that gives way to the buttons: shown whole or shortened, as
-// there is room, and whole in its tool tip.
+// A line of plain text in a tool bar or status bar that gives way to what else is there: shown whole or
+// shortened, as there is room, and whole in its tool tip.
 class TBarCaption : public QWidget {
     Q_OBJECT
 
 public:
-    TBarCaption(Qt::TextElideMode elide, QWidget* parent);
+    TBarCaption(Qt::TextElideMode elide, QWidget* parent, Qt::Alignment alignment = Qt::AlignRight);
 
     void setText(const QString& text);
 
@@ -17,5 +17,6 @@ protected:
 
 private:
     Qt::TextElideMode m_elide;
+    Qt::Alignment m_alignment;
     QString m_text;
 };

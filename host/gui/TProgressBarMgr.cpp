@@ -1,26 +1,29 @@
 #include "TProgressBarMgr.h"
 
 #include <QApplication>
-#include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QProgressBar>
-#include <QVBoxLayout>
+#include <QStatusBar>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int edge = 24;
-constexpr int panelWidth = 400;
+constexpr int gap = 8;
+constexpr int barWidth = 240;
 constexpr qint64 repaintPause = 40; // milliseconds
 
-QWidget* windowForProgress() {
-    if (QWidget* active = QApplication::activeWindow())
+// The window in front, or behind a dialog the one that it belongs to.
+QMainWindow* windowForProgress() {
+    if (auto* const active = qobject_cast<QMainWindow*>(QApplication::activeWindow()))
         return active;
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && qobject_cast<QMainWindow*>(window) != nullptr)
-            return window;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* const window : windows) {
+        auto* const main = qobject_cast<QMainWindow*>(window);
+        if (main != nullptr && main->isVisible())
+            return main;
     }
     return nullptr;
 }
@@ -37,27 +40,28 @@ TProgressBarMgr::~TProgressBarMgr() {
 }
 
 void TProgressBarMgr::showPanel(const QString& text) {
-    QWidget* window = windowForProgress();
+    QMainWindow* const window = windowForProgress();
     if (window == nullptr)
         return;
-    m_panel = new QFrame(window);
-    m_panel->setFrameStyle(QFrame::StyledPanel);
-    m_panel->setAutoFillBackground(true);
-    auto* label = new QLabel(text);
+    QStatusBar* const place = window->statusBar();
+    m_panel = new QWidget;
+    auto* const label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
     m_bar = new QProgressBar;
     m_bar->setRange(0, m_total);
+    m_bar->setFixedWidth(barWidth);
     m_bar->setAccessibleName(text);
-    auto* layout = new QVBoxLayout(m_panel);
-    layout->setContentsMargins(16, 16, 16, 16);
-    layout->addWidget(label);
-    layout->addWidget(m_bar);
-
-    const int width = std::min(panelWidth, window->width());
-    const int height = std::max(layout->heightForWidth(width), layout->sizeHint().height());
-    m_panel->setGeometry((window->width() - width) / 2, window->height() - height - edge, width, height);
-    m_panel->show();
+    auto* const row = new QHBoxLayout(m_panel);
+    row->setContentsMargins(gap, 0, gap, 0);
+    row->setSpacing(gap);
+    row->addWidget(label);
+    row->addWidget(m_bar);
+    place->addPermanentWidget(m_panel);
+    place->show();
+    // Now, as no event is processed before the work begins.
+    window->layout()->activate();
+    place->layout()->activate();
+    row->activate();
     m_panel->repaint();
     m_sinceRepaint.start();
 }

@@ -4,13 +4,13 @@
 #include <QPointer>
 #include <QString>
 
-class QFrame;
+class QWidget;
 class QProgressBar;
 
-// The progress of one long operation, shown in a panel at the lower edge of the active window, or of the
-// main window when none is active, for as long as this object lives. Without a window it only counts.
+// The progress of one long operation, shown in the status bar of the main window in front, for as long as
+// this object lives. Without a main window it only counts.
 //
-// It repaints the panel and never runs the event loop: nothing that the user does reaches the application
+// It repaints its part and never runs the event loop: nothing that the user does reaches the application
 // before the operation is through.
 class TProgressBarMgr {
 public:
@@ -20,7 +20,7 @@ public:
     TProgressBarMgr(const TProgressBarMgr&) = delete;
     TProgressBarMgr& operator=(const TProgressBarMgr&) = delete;
 
-    // Steps that go back or beyond the ends are bounded. With repaint, the panel shows the step, though not
+    // Steps that go back or beyond the ends are bounded. With repaint, the step is seen at once, though not
     // more often than an eye can follow.
     void setProgress(int done, bool repaint);
     int progress() const { return m_done; }
@@ -30,7 +30,7 @@ private:
 
     int m_total;
     int m_done = 0;
-    QPointer<QFrame> m_panel;
+    QPointer<QWidget> m_panel;
     QPointer<QProgressBar> m_bar;
     QElapsedTimer m_sinceRepaint;
 };

@@ -112,6 +112,7 @@ void SourceRockCtrl::importS00(ImportRockEvalVI* importInterface, QString& name)
 }
 
 // By value, as the host's own modules hand it over.
+// cppcheck-suppress passedByValue
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
 void SourceRockCtrl::saveAnalysis(QString& name, QList<float*> channels, int count) {
     const ProjectMgrInterface* const projects = ProjectMgrInterface::returnMe();

@@ -183,6 +183,10 @@ void ImportRockEvalVI::readContent() {
         m_results = RockEvalResults::model(table);
         m_count = R00_TABLE_CODE;
         logWarnings(shown(m_name), table.warnings);
+        MessageLoggerInterface::Information(tr("<b>%1</b>: a table of %2 results was read.",
+                                               "<b>%1</b> : un tableau de %2 résultats a été lu.")
+                                                .arg(shown(m_name))
+                                                .arg(m_results->rowCount()));
         return;
     }
     const rockeval::RawSignal signal = rockeval::readSignal(viewOf(bytes), name);

@@ -28,8 +28,8 @@ public:
     /// The bytes of a file. The curve must have points.
     QByteArray encoded() const;
 
-    /// Writes a file, whole or not at all, in the place of one that may lie there. Throws a VKError that names
-    /// the file and the cause.
+    /// Writes a file, whole or not at all, in the place of one that may lie there. Throws a VKError that
+    /// names the file and the cause.
     void write(const QString& path) const;
 
     /// What the analysis was measured for.

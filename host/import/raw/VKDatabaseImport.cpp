@@ -336,12 +336,13 @@ void VKDatabaseImport::push(TechDB::TDatabase* project, const VKObject2* object)
     const TAnalysisData curve = this->curve(analysis->key());
     const VKObject2Analysis* const stored =
         project->addAnalysisOnce(analysis->name(), info->analysisType, curve);
-    if (stored->name() != analysis->name()) {
-        MessageLoggerInterface::Information(
-            tr("The analysis <b>%1</b> stands in the project as <b>%2</b>.",
-               "L'analyse <b>%1</b> figure dans le projet sous <b>%2</b>.")
-                .arg(analysis->name().toHtmlEscaped(), stored->name().toHtmlEscaped()));
-    }
+    MessageLoggerInterface::Information(
+        stored->name() == analysis->name()
+            ? tr("The analysis <b>%1</b> is in the project.", "L'analyse <b>%1</b> est dans le projet.")
+                  .arg(analysis->name().toHtmlEscaped())
+            : tr("The analysis <b>%1</b> stands in the project as <b>%2</b>.",
+                 "L'analyse <b>%1</b> figure dans le projet sous <b>%2</b>.")
+                  .arg(analysis->name().toHtmlEscaped(), stored->name().toHtmlEscaped()));
 }
 
 /// Once it is pushed, no step asks for an analysis by the names that stood for it.

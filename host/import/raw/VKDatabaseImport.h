@@ -55,7 +55,8 @@ public:
 
     /// Copies an analysis of this database, with name, type and curve, into a project, in one transaction. A
     /// project that holds the curve under that name, with or without a number, is left as it is; one that
-    /// holds another curve under it gets the analysis with a number, and the log says so.
+    /// holds another curve under it gets the analysis with a number. The log says under which name it is
+    /// there.
     bool objectPush(TechDB::TDatabase* project, const VKObject2* object);
 
     /// Also by a name given out that stands for an analysis stored before.
