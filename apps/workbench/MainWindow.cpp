@@ -37,9 +37,7 @@ MainWindow::MainWindow(MessageLogModel& log)
     m_rows->setStretchFactor(0, 1);
     m_columns->addWidget(m_tree);
     m_columns->addWidget(m_rows);
-    // A larger window has room for longer names and the dates too.
-    m_columns->setStretchFactor(0, 1);
-    m_columns->setStretchFactor(1, 4);
+    m_columns->setStretchFactor(1, 1);
     for (QSplitter* const splitter : {m_columns, m_rows}) {
         splitter->setChildrenCollapsible(false);
     }

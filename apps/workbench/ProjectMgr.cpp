@@ -1,5 +1,6 @@
 #include "ProjectMgr.h"
 
+#include "MessageLoggerInterface.h"
 #include "TDatabase.h"
 #include "VKDatabaseImport.h"
 #include "VKError.h"
@@ -36,8 +37,13 @@ TechDB::TDatabase* ProjectMgr::projectDatabase() const {
 VKDatabaseImport* ProjectMgr::importDatabase() const {
     if (m_import == nullptr && m_project != nullptr) {
         const QFileInfo project(m_project->path());
-        m_import = VKDatabaseImport::open(
-            project.dir().filePath(project.completeBaseName() + QStringLiteral(".import")));
+        try {
+            m_import = VKDatabaseImport::open(
+                project.dir().filePath(project.completeBaseName() + QStringLiteral(".import")));
+        } catch (const VKError& error) {
+            // The importing module goes on to name the file that did not come in.
+            MessageLoggerInterface::Error(error.text());
+        }
     }
     return m_import.get();
 }

@@ -18,7 +18,7 @@ public:
 
     TechDB::TDatabase* projectDatabase() const override;
     /// Lies in a folder beside the project ("lab.import" beside "lab.vornproj"), made when it is first asked
-    /// for. Throws VKError if it can't be.
+    /// for. Tried again with each call while it can't be.
     VKDatabaseImport* importDatabase() const override;
 
     /// Opens a project in the place of the present one, which stays open if that fails: throws VKError.

@@ -1,9 +1,9 @@
 #include "Application.h"
-#include "ExampleProject.h"
 #include "Headless.h"
 #include "LanguageSwitch.h"
 #include "LookSwitch.h"
 #include "TavrelStyle.h"
+#include "VKDatabaseVornMGR.h"
 #include "VKError.h"
 #include "Workbench.h"
 
@@ -18,8 +18,8 @@ struct Options {
     QCommandLineParser parser;
     QCommandLineOption qualityCheck{"quality-check", "Start with the quality check open."};
     QCommandLineOption example{"example", "Open the project with the example curves."};
-    QCommandLineOption headless{"headless",
-                                "Grade the example curves, write pictures into <folder> and quit.", "folder"};
+    QCommandLineOption headless{
+        "headless", "Import and grade the examples, write pictures into <folder> and quit.", "folder"};
     QCommandLineOption language{"language", "Speak en or fr.", "language"};
     QCommandLineOption look{"look", "Be light or dark.", "look"};
 
@@ -55,9 +55,9 @@ void dress(Workbench& workbench, const Options& options) {
 /// In a project of its own, so that the user's stays as it is.
 int runHeadless(Workbench& workbench, const QString& folder) {
     QDir().mkpath(folder);
+    VKDatabaseVornMGR::getInstance()->setPlace(QDir(folder).filePath("parameters.vorncatalogue"));
     try {
-        workbench.projects().create(QDir(folder).filePath("example." + ProjectMgr::fileSuffix()),
-                                    &ExampleProject::fill);
+        workbench.projects().create(QDir(folder).filePath("example." + ProjectMgr::fileSuffix()));
     } catch (const VKError& error) {
         VKError::dispatchError(error);
         return 1;

@@ -22,7 +22,8 @@ public:
     /// Null while no project is open.
     virtual TechDB::TDatabase* projectDatabase() const = 0;
 
-    /// Where imported files are put before they enter the project; null while no project is open.
+    /// Where imported files are put before they enter the project; null while no project is open, and where
+    /// it can't be opened, which is an Error on the log.
     virtual VKDatabaseImport* importDatabase() const = 0;
 
 protected:

@@ -3,33 +3,63 @@
 #include "VKDataModelGeneric.h"
 
 #include <algorithm>
+#include <numeric>
 
 using TechDB::SampleTable;
+
+namespace {
+
+/// Names that are missing are blank, or numbers where they were stored.
+bool saySomething(const QStringList& names) {
+    for (int place = 0; place < names.size(); ++place) {
+        const QString name = names.at(place).trimmed();
+        if (!name.isEmpty() && name != QString::number(place + 1)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 void DatasetTable::add(const QString& name, const SampleTable& sample) {
     m_samples.append({name, sample});
 }
 
 std::unique_ptr<VKDataModelGeneric> DatasetTable::table() const {
-    if (!isTurned()) {
-        return joined(m_samples);
+    QVector<Sample> samples = m_samples;
+    if (lastRepeatsAll(samples)) {
+        samples.removeLast();
     }
-    QVector<Sample> samples;
-    for (const Sample& sample : m_samples) {
-        samples.append({sample.name, turned(sample.table)});
+    if (areUpright(samples)) {
+        for (Sample& sample : samples) {
+            sample.table = turned(sample.table);
+        }
     }
     return joined(samples);
 }
 
-bool DatasetTable::isTurned() const {
+bool DatasetTable::lastRepeatsAll(const QVector<Sample>& samples) {
+    if (samples.size() < 2) {
+        return false;
+    }
+    const auto columnsBefore = [](int sum, const Sample& sample) {
+        return sum + sample.table.columnNames.size();
+    };
+    const SampleTable& last = samples.last().table;
+    return last.rowNames == samples.first().table.rowNames &&
+           last.columnNames.size() >= std::accumulate(samples.begin(), samples.end() - 1, 0, columnsBefore);
+}
+
+bool DatasetTable::areUpright(const QVector<Sample>& samples) {
     const auto upright = [](const Sample& sample) {
         return sample.table.columnNames.size() == 1 && sample.table.rowNames.size() > 1;
     };
     const auto lying = [](const Sample& sample) {
         return sample.table.rowNames.size() == 1 && sample.table.columnNames.size() > 1;
     };
-    return std::any_of(m_samples.begin(), m_samples.end(), upright) &&
-           std::none_of(m_samples.begin(), m_samples.end(), lying);
+    return std::any_of(samples.begin(), samples.end(), upright) &&
+           std::none_of(samples.begin(), samples.end(), lying);
 }
 
 SampleTable DatasetTable::turned(const SampleTable& sample) {
@@ -59,8 +89,7 @@ std::unique_ptr<VKDataModelGeneric> DatasetTable::joined(const QVector<Sample>& 
     for (const Sample& sample : samples) {
         const QStringList& names = sample.table.rowNames;
         rows += names.size();
-        named = named || std::any_of(names.begin(), names.end(),
-                                     [](const QString& name) { return !name.trimmed().isEmpty(); });
+        named = named || saySomething(names);
     }
     if (named) {
         headers.append(tr("Row", "Ligne"));

@@ -11,12 +11,13 @@
 
 class VKDataModelGeneric;
 
-/// The samples of a dataset as one table: the sample's name and, unless all of them are blank, its rows'
-/// names come first, then the columns of all samples, each where it first occurred. Where a sample doesn't
+/// The samples of a dataset as one table: the sample's name and, if they say anything, its rows' names come
+/// first, then the columns of all samples, each where it first occurred. Where a sample doesn't
 /// have a column, its cells are empty.
 ///
 /// A dataset that holds samples of a single column, and none of a single row, has its quantities down the
-/// side: all its samples are turned then, so that each of them is a row.
+/// side: all its samples are turned then, so that each of them is a row. An import stores, behind the
+/// samples, its table as a whole, which would say everything twice; it is a sample of its own in the tree.
 class DatasetTable {
     Q_DECLARE_TR_FUNCTIONS(DatasetTable)
 
@@ -36,7 +37,8 @@ private:
     using Column = QPair<QString, int>;
 
     static TechDB::SampleTable turned(const TechDB::SampleTable& sample);
-    bool isTurned() const;
+    static bool lastRepeatsAll(const QVector<Sample>& samples);
+    static bool areUpright(const QVector<Sample>& samples);
     static QVector<Column> columnsOf(const TechDB::SampleTable& sample);
     static std::unique_ptr<VKDataModelGeneric> joined(const QVector<Sample>& samples);
     static void fill(VKDataModelGeneric& table, int row, int firstColumn, const Sample& sample,

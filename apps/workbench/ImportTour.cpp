@@ -1,0 +1,83 @@
+#include "ImportTour.h"
+
+#include "ModalAnswers.h"
+#include "PictureFolder.h"
+#include "ProjectTree.h"
+#include "VKError.h"
+#include "Workbench.h"
+#include "Workspace.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QTreeView>
+
+namespace {
+
+using Kind = ImportModules::Kind;
+
+/// On disk, where a user would have them.
+QStringList carriedFiles(const QString& from, const QString& to) {
+    QDir().mkpath(to);
+    QStringList paths;
+    const QStringList names = QDir(from).entryList(QDir::Files, QDir::Name);
+    for (const QString& name : names) {
+        const QString path = QDir(to).filePath(name);
+        QFile::remove(path); // of an earlier run
+        if (!QFile::copy(QDir(from).filePath(name), path)) {
+            throw VKError(
+                QStringLiteral("The example <b>%1</b> can't be written: check that its folder may be "
+                               "written.")
+                    .arg(path.toHtmlEscaped()));
+        }
+        paths.append(path);
+    }
+    return paths;
+}
+
+} // namespace
+
+ImportTour::ImportTour(Workbench& workbench, const PictureFolder& pictures)
+    : m_workbench(workbench), m_pictures(pictures) {}
+
+void ImportTour::importRawFiles() {
+    const QStringList files = carriedFiles(QStringLiteral(":/examples"), m_pictures.filePath("files"));
+    m_workbench.imports().importFiles(Kind::SourceRock, files);
+    PictureFolder::settle();
+    m_pictures.write(QStringLiteral("import.png"), m_workbench.window());
+    closeModule(Kind::SourceRock);
+}
+
+/// With its list of files, so that they are taken again.
+void ImportTour::closeModule(ImportModules::Kind kind) {
+    m_workbench.imports().bar(kind)->closeRequested();
+    PictureFolder::settle();
+}
+
+void ImportTour::importTables() {
+    carriedFiles(QStringLiteral(":/tables"), m_pictures.filePath("files"));
+    ModalAnswers answers({QStringLiteral("Overwrite"), QStringLiteral("Écraser")});
+    answers.setObserver([this](QWidget& dialog) { m_pictures.write(QStringLiteral("wizard.png"), dialog); });
+    const QString table = QStringLiteral("source-rock.xlsx");
+    m_workbench.imports().importFiles(Kind::SourceRock, {m_pictures.filePath("files/" + table)});
+    answers.setObserver({});
+
+    const QStringList unknown{m_pictures.filePath("files/custom.xlsx")};
+    m_workbench.imports().importFiles(Kind::Custom, unknown);
+    m_workbench.imports()
+        .bar(Kind::Custom)
+        ->closeRequested(); // with its list, so that the file is taken again
+    PictureFolder::settle();
+    m_workbench.imports().importFiles(Kind::Custom, unknown);
+
+    ProjectTree& tree = m_workbench.window().tree();
+    PictureFolder::settle();
+    auto* const filter = tree.findChild<QLineEdit*>();
+    filter->setText(table);
+    tree.findChild<QTreeView*>()->selectAll();
+    tree.openAction()->trigger();
+    filter->clear();
+    PictureFolder::settle();
+    m_pictures.write(QStringLiteral("dataset.png"), m_workbench.window());
+}
