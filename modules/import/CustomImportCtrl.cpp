@@ -12,6 +12,8 @@
 #include <QAbstractItemModel>
 #include <QStringList>
 
+VORN_KEEP_TR(CustomImportCtrl)
+
 namespace {
 
 // What the catalogue takes for a value that nobody gave.

@@ -16,6 +16,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+VORN_KEEP_TR(SourceRockCtrl)
+
 namespace {
 
 // What a reader of raw files counts instead of points.
@@ -112,7 +114,6 @@ void SourceRockCtrl::importS00(ImportRockEvalVI* importInterface, QString& name)
 }
 
 // By value, as the host's own modules hand it over.
-// cppcheck-suppress passedByValue
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
 void SourceRockCtrl::saveAnalysis(QString& name, QList<float*> channels, int count) {
     const ProjectMgrInterface* const projects = ProjectMgrInterface::returnMe();

@@ -26,6 +26,8 @@
 #include <algorithm>
 #include <iterator>
 
+VORN_KEEP_TR(VornCtrl)
+
 namespace {
 
 // -1 if there is none.
@@ -116,6 +118,14 @@ void VornCtrl::import(VKImportDatasetInterface* importInterface, const QString& 
 }
 
 void VornCtrl::specificProcess(const QAbstractItemModel*) {}
+
+VornEditor* VornCtrl::editor() const {
+    return m_editor;
+}
+
+QHash<QString, int>& VornCtrl::model() {
+    return m_model;
+}
 
 void VornCtrl::importFiles() {
     if (m_model.isEmpty()) {

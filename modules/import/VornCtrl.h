@@ -60,10 +60,11 @@ protected:
     /// What a module does with the stored table, one row per column of the file; nothing here.
     virtual void specificProcess(const QAbstractItemModel* model);
 
-    VornEditor* editor() const { return m_editor; }
+    /// Null before `createEditor`.
+    VornEditor* editor() const;
 
     /// The file list: path as it was dropped, and `importStatus`.
-    QHash<QString, int>& model() { return m_model; }
+    QHash<QString, int>& model();
 
     /// One pass over the files, in the order of the list. Tells the user when no reader took any of them.
     void importFiles();

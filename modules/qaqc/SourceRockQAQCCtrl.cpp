@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+VORN_KEEP_TR(Vorn::SourceRockQAQC::SourceRockQAQCCtrl)
+
 namespace Vorn::SourceRockQAQC {
 
 // The editor makes the settings that the manager shares, so it comes first.

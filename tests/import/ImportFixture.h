@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ApplicationInterface.h"
+#include "AsciiImportWizardStrategySR.h"
 #include "GasDataEditor.h"
 #include "MessageCollector.h"
 #include "ModuleLauncherInterface.h"
@@ -9,66 +10,34 @@
 #include "TDatabase.h"
 #include "VKDataModelGeneric.h"
 #include "VKError.h"
-#include "VKImportDatasetInterface.h"
+#include "VKImportInterface.h"
 #include "VKObject2Well.h"
-#include "VKTreeWidget.h"
 #include "VornCtrl.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <QTranslator>
 
 #include <functional>
-#include <memory>
-#include <ostream>
 
-/// How the test library shows a text that differs.
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << text.toStdString();
-}
+/// A module whose readers are the test's, and so is what is done with a table if `onTable` is set.
+struct TestCtrl : VornCtrl {
+    using VornCtrl::editor, VornCtrl::importFiles, VornCtrl::model, VornCtrl::import;
+    using VornCtrl::moveIDColumnAtStart, VornCtrl::saveDatasets, VornCtrl::setFirstColAsHeader;
 
-/// Takes the files whose names hold `accepted`, and tells what it was asked.
-struct FakeReader : VKImportDatasetInterface {
-    FakeReader(QString accepts, QStringList& sharedCalls)
-        : accepted(std::move(accepts)), calls(sharedCalls) {}
-    ~FakeReader() override { calls << "deleted " + accepted; }
-
-    void prepareForProbe(bool probe) override { calls << (probe ? "probe " : "no probe ") + accepted; }
-    bool acceptsFile(TFileBuffer&, const QString& path, QString&) override { return path.contains(accepted); }
-    void setSource(const QString&, const QString&, const QString&, TFileBuffer*) override {}
-    QAbstractItemModel* importedModel() override { return nullptr; }
-
-    QString accepted;
-    QStringList& calls;
-};
-
-/// A module whose readers and whose import of a table are the test's.
-class TestCtrl : public VornCtrl {
-public:
     TestCtrl() { m_moduleLabel = "Lab"; }
-
-    using VornCtrl::createTemplateDataset;
-    using VornCtrl::editor;
-    using VornCtrl::importFiles;
-    using VornCtrl::model;
-    using VornCtrl::moveIDColumnAtStart;
-    using VornCtrl::saveDatasets;
-    using VornCtrl::setFirstColAsHeader;
-    using VornCtrl::updateFileStatus;
+    VornEditor* initEditor() override { return new GasDataEditor(m_moduleLabel, model()); }
+    AsciiImportWizardStrategy* getStrategy() override { return new AsciiImportWizardStrategySR; }
+    void retrieveDLLImport(VKImportCtrl&, QList<VKImportInterface*>& list) override { list = readers(); }
+    void import(VKImportDatasetInterface* reader, const QString& path) override {
+        onTable ? onTable(reader, path) : VornCtrl::import(reader, path);
+    }
+    void specificProcess(const QAbstractItemModel* model) override { processedRows = model->rowCount(); }
 
     std::function<QList<VKImportInterface*>()> readers;
     std::function<void(VKImportDatasetInterface*, const QString&)> onTable;
-
-protected:
-    VornEditor* initEditor() override { return new GasDataEditor(m_moduleLabel, model()); }
-    AsciiImportWizardStrategy* getStrategy() override { return nullptr; }
-    void retrieveDLLImport(VKImportCtrl&, QList<VKImportInterface*>& interfaces) override {
-        interfaces = readers();
-    }
-    using VornCtrl::import;
-    void import(VKImportDatasetInterface* reader, const QString& path) override { onTable(reader, path); }
+    int processedRows = -1;
 };
 
 /// The host as far as import modules reach it.
@@ -80,27 +49,22 @@ struct FakeHost : ApplicationInterface, ModuleLauncherInterface, ProjectMgrInter
     void openDataEditor(VKDataModel*) override {}
     TechDB::TDatabase* projectDatabase() const override { return project; }
     VKDatabaseImport* importDatabase() const override { return imports; }
-    void addModuleBar(VKRibbonModuleBar* bar, bool, bool) override { bars += bar; }
-    void removeModuleBar(VKRibbonModuleBar* bar) override {
-        bars.removeAll(bar);
-        if (onRemoved) {
-            onRemoved();
-        }
-    }
+    void addModuleBar(VKRibbonModuleBar* bar, bool, bool) override { titles += bar->title(); }
+    void removeModuleBar(VKRibbonModuleBar* bar) override { onRemoved(dynamic_cast<VornEditor*>(bar)); }
 
     QList<int> notified;
+    QStringList titles;
     TModuleCtrl* closed = nullptr;
     TechDB::TDatabase* project = nullptr;
     VKDatabaseImport* imports = nullptr;
-    QList<VKRibbonModuleBar*> bars;
-    std::function<void()> onRemoved;
+    std::function<void(VornEditor*)> onRemoved = [](VornEditor*) {};
 };
 
-/// French as the application gives it: the disambiguation.
-struct FrenchTexts : QTranslator {
-    FrenchTexts() { QCoreApplication::installTranslator(this); }
-    QString translate(const char*, const char*, const char* disambiguation, int) const override {
-        return QString::fromUtf8(disambiguation);
+/// Gives each text in both languages at once, "English|French".
+struct BothLanguages : QTranslator {
+    BothLanguages() { QCoreApplication::installTranslator(this); }
+    QString translate(const char*, const char* source, const char* french, int) const override {
+        return french == nullptr ? QString() : QString(source) + '|' + french;
     }
     bool isEmpty() const override { return false; }
 };
@@ -112,50 +76,38 @@ protected:
         host.project = project.get();
     }
 
-    static VornEditor& editorOf(TestCtrl& module) { return *module.editor(); }
-
     /// The text of the VKError; empty if there was none.
-    template <class Operation>
-    static QString failure(const Operation& operation) {
+    static QString failure(const std::function<void()>& operation) {
         try {
             operation();
         } catch (const VKError& error) {
-            EXPECT_TRUE(error.place().isNull() && error.advice().isNull());
-            return error.message();
+            return error.text();
         }
         return {};
     }
-
     QStringList informations() const { return log.messages(MessageLevel::Information); }
     QStringList errors() const { return log.messages(MessageLevel::Error); }
 
-    QStringList sampleNames(const QString& dataset) const {
-        QStringList names;
-        const VKObject2Well* const well = project->getWell(dataset);
-        if (well != nullptr) {
-            for (const TechDB::SampleInfo& sample : project->samples(well->key())) {
-                names += sample.name;
+    /// The sample's table; without a name, the names of all as its rows.
+    TechDB::SampleTable sample(const QString& dataset, const QString& name = {}) const {
+        TechDB::SampleTable names;
+        for (const TechDB::SampleInfo& each : project->samples(project->getWell(dataset)->key())) {
+            names.rowNames += each.name;
+            if (each.name == name) {
+                return project->sampleTable(each.key);
             }
         }
         return names;
     }
-    TechDB::SampleTable sample(const QString& dataset, const QString& name) const {
-        const qint64 well = project->getWell(dataset)->key();
-        for (const TechDB::SampleInfo& sample : project->samples(well)) {
-            if (sample.name == name) {
-                return project->sampleTable(sample.key);
-            }
-        }
-        return {};
-    }
 
     const QTemporaryDir folder;
+    const BothLanguages translator;
     MessageCollector log;
     const std::unique_ptr<TechDB::TDatabase> project;
     FakeHost host;
 };
 
-/// A table of the host with these columns, row by row.
+/// Fills a table of the host with these columns, row by row.
 inline void fill(VKDataModelGeneric& table, const QStringList& names, const QVector<QVariantList>& rows) {
     table.createEmpty(names.size(), rows.size());
     for (int column = 0; column < names.size(); ++column) {
