@@ -39,6 +39,8 @@ void TLineIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QI
 }
 
 QPixmap TLineIcon::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) {
+    if (size.isEmpty())
+        return {}; // a button without room asks too
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 
 #include <iostream>
 
@@ -33,6 +34,9 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("vorn-importer");
+    // Settings of its own: Qt waits half a minute for those that a process was killed over.
+    const QString settings = QString("%1/settings-%2").arg(argv[2]).arg(QCoreApplication::applicationPid());
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings);
     Workbench workbench;
     workbench.projects().open(QString::fromLocal8Bit(argv[1]));
     const QDir folder(QString::fromLocal8Bit(argv[2]));

@@ -5,18 +5,12 @@
 
 #include <QHash>
 
-#include <limits>
-
 QString IdentifierCheck::stored(const QString& text) {
+    constexpr float limit = 2147483648.0F; // what no integer of 32 bits holds stays text
     bool isNumber = false;
     const float value = text.toFloat(&isNumber);
-    if (!isNumber) {
-        return text;
-    }
-    constexpr int smallest = std::numeric_limits<int>::min();
-    constexpr auto beyond = -static_cast<float>(smallest); // the first float above all integers
-    const bool fits = value >= static_cast<float>(smallest) && value < beyond;
-    return QString::number(fits ? static_cast<int>(value) : smallest);
+    const bool fits = isNumber && value >= -limit && value < limit;
+    return fits ? QString::number(static_cast<int>(value)) : text;
 }
 
 IdentifierCheck::IdentifierCheck(const Workbook::Sheet& sheet, const std::vector<int>& rows, int column) {

@@ -19,8 +19,8 @@ public:
     };
 
     /// As samples are named: a number loses its fraction (3.9 gives 3, "007" gives 7), any other text stays.
-    /// Numbers are read with the precision of a float; those beyond a 32-bit integer all give the smallest
-    /// one. Empty for an empty text.
+    /// Numbers are read with the precision of a float; those beyond a 32-bit integer stay text too. Empty for
+    /// an empty text.
     static QString stored(const QString& text);
 
     /// Nothing is checked.

@@ -82,7 +82,7 @@ TEST(IdentifierCheck, stores_numbers_without_their_fractions) {
     EXPECT_EQ(IdentifierCheck::stored(""), "");
     EXPECT_EQ(IdentifierCheck::stored("2147483520"), "2147483520");
     for (const auto* beyond : {"2147483648", "20240503001", "-1e30", "nan", "inf"}) {
-        EXPECT_EQ(IdentifierCheck::stored(beyond), "-2147483648") << beyond;
+        EXPECT_EQ(IdentifierCheck::stored(beyond), beyond);
     }
 }
 
