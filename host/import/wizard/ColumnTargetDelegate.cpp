@@ -6,7 +6,6 @@
 
 #include <QComboBox>
 #include <QKeyEvent>
-#include <QTimer>
 
 namespace {
 
@@ -34,7 +33,7 @@ QWidget* ColumnTargetDelegate::createEditor(QWidget* parent, const QStyleOptionV
     // Editors are made in a const operation, and what they send at the end is not one.
     auto* self = const_cast<ColumnTargetDelegate*>(this); // NOLINT(cppcoreguidelines-pro-type-const-cast)
     connect(box, QOverload<int>::of(&QComboBox::activated), self, [self, box] { self->finish(box); });
-    QTimer::singleShot(0, box, &QComboBox::showPopup);
+    QMetaObject::invokeMethod(box, &QComboBox::showPopup, Qt::QueuedConnection);
     return box;
 }
 

@@ -47,7 +47,7 @@ constexpr Ratio ratios[] = {{"delta13c", "d13c"}, {"d13c", "d13c"}, {"13c", "d13
 
 /// The compound's one name; empty for what is none.
 QString compound(const QString& name) {
-    const QString known = compounds().value(name);
+    QString known = compounds().value(name);
     for (const auto* word : {"del", "de", "du", "of"}) {
         if (known.isEmpty() && name.startsWith(QLatin1String(word))) {
             return compounds().value(name.mid(QLatin1String(word).size()));

@@ -107,7 +107,7 @@ int ImportDraft::importedCount() const {
 }
 
 QVariant ImportDraft::importedCell(int row, int sheetColumn) const {
-    const QVariant cell = sheet().cell(row, sheetColumn);
+    QVariant cell = sheet().cell(row, sheetColumn);
     const int place = placeOf(sheetColumn);
     if (row < m_mapping.layout.firstDataRow || place < 0 || place == m_mapping.identifier ||
         !column(place).isImported()) {
