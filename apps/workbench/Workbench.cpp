@@ -45,7 +45,7 @@ void Workbench::wireProject() {
         m_window.tree().setProject(project);
         showTitle();
     });
-    connect(&m_application, &ApplicationHost::projectChanged, &m_window.tree(), &ProjectTree::refresh);
+    connect(&m_application, &ApplicationHost::projectChanged, &m_window.tree(), &ProjectTree::refreshSoon);
 }
 
 void Workbench::wireTree() {

@@ -36,6 +36,35 @@ QIcon statusIcon(int code) {
     }
 }
 
+/// What a row shows, at hand without asking its cells.
+class FileRow : public QTreeWidgetItem {
+public:
+    explicit FileRow(const QString& path) : QTreeWidgetItem(QTreeWidgetItem::Type), m_path(path) {
+        setText(NameColumn, QFileInfo(path).fileName());
+        // Found along the search paths of the resources, so that an application may put its own in front.
+        setIcon(DeleteColumn, QIcon(":Ressources/png/toolbar/delete_generic.png"));
+        setTextAlignment(DeleteColumn, Qt::AlignHCenter);
+        setText(PathColumn, path);
+    }
+
+    const QString& path() const { return m_path; }
+    /// One icon for all rows of a status, so that its picture is read once.
+    void setStatus(int code, QHash<int, QIcon>& icons) {
+        if (code == m_code) {
+            return;
+        }
+        m_code = code;
+        if (!icons.contains(code)) {
+            icons.insert(code, statusIcon(code));
+        }
+        setIcon(StatusColumn, icons.value(code));
+    }
+
+private:
+    QString m_path;
+    int m_code = noValue;
+};
+
 } // namespace
 
 VornEditor::VornEditor(const QString& title, QHash<QString, int>& files)
@@ -90,6 +119,7 @@ void VornEditor::initFileTree() {
     m_fileTree->setDropText(dropText());
     m_fileTree->setAcceptDrops(true);
     m_fileTree->setColumnCount(PathColumn);
+    m_fileTree->setUniformRowHeights(true);
     connect(m_fileTree, &QTreeWidget::itemClicked, this, &VornEditor::slotItemClicked);
     reportUnless(connect(m_fileTree, &VKTreeWidget::dataDroppped, this, &VornEditor::slotDrop));
     layout->addWidget(m_fileTree, 0, {});
@@ -104,30 +134,45 @@ void VornEditor::reportUnless(const QMetaObject::Connection& connected) {
 }
 
 void VornEditor::refreshFileTree() {
-    m_fileTree->clear();
-    for (auto file = m_files->cbegin(); file != m_files->cend(); ++file) {
-        if (file.key().isEmpty()) {
-            break; // there is none in a list that its controller filled
-        }
-        addFile(file.key(), file.value());
+    // A pass over a thousand files comes here after each: rows made anew each time would take minutes.
+    if (m_files->isEmpty() || !updateStatuses()) {
+        listFiles();
     }
     // The tree's own parts count, not its rows: from the first list on the button is open, and who presses
     // it without a file is told so by the controller.
     if (!m_fileTree->children().isEmpty()) {
         m_importButton->setEnabled(true);
-        m_fileTree->resizeColumnToContents(StatusColumn);
-        m_fileTree->resizeColumnToContents(NameColumn);
     }
 }
 
-void VornEditor::addFile(const QString& path, int code) {
-    auto* const item = new QTreeWidgetItem(m_fileTree, QTreeWidgetItem::Type);
-    item->setIcon(StatusColumn, statusIcon(code));
-    item->setText(NameColumn, QFileInfo(path).fileName());
-    // Found along the search paths of the resources, so that an application may put its own in front.
-    item->setIcon(DeleteColumn, QIcon(":Ressources/png/toolbar/delete_generic.png"));
-    item->setTextAlignment(DeleteColumn, Qt::AlignHCenter);
-    item->setText(PathColumn, path);
+/// False if the rows are not those of the files.
+bool VornEditor::updateStatuses() {
+    if (m_fileTree->topLevelItemCount() != m_files->size()) {
+        return false;
+    }
+    int row = 0;
+    for (auto file = m_files->cbegin(); file != m_files->cend(); ++file, ++row) {
+        auto* const shown = dynamic_cast<FileRow*>(m_fileTree->topLevelItem(row));
+        if (shown == nullptr || shown->path() != file.key()) {
+            return false;
+        }
+        shown->setStatus(file.value(), m_statusIcons);
+    }
+    return true;
+}
+
+void VornEditor::listFiles() {
+    m_fileTree->clear();
+    for (auto file = m_files->cbegin(); file != m_files->cend(); ++file) {
+        if (file.key().isEmpty()) {
+            break; // there is none in a list that its controller filled
+        }
+        auto* const row = new FileRow(file.key());
+        row->setStatus(file.value(), m_statusIcons);
+        m_fileTree->addTopLevelItem(row);
+    }
+    m_fileTree->resizeColumnToContents(StatusColumn);
+    m_fileTree->resizeColumnToContents(NameColumn);
 }
 
 int VornEditor::getIdForHelp() const {

@@ -5,6 +5,7 @@
 #include "VKRibbonModuleBar.h"
 
 #include <QHash>
+#include <QIcon>
 #include <QString>
 #include <QStringList>
 
@@ -55,10 +56,12 @@ private:
     void initRibbon(VornCtrl* ctrl);
     void initFileTree();
     static void reportUnless(const QMetaObject::Connection& connected);
-    void addFile(const QString& path, int code);
+    bool updateStatuses();
+    void listFiles();
 
     VKRibbonGroupExpandable* m_expandGroup = nullptr;
     QToolButton* m_importButton = nullptr;
     VKTreeWidget* m_fileTree = nullptr;
     QHash<QString, int>* m_files;
+    QHash<int, QIcon> m_statusIcons;
 };

@@ -111,10 +111,13 @@ void ProjectTree::setProject(TechDB::TDatabase* project) {
     m_filter->clear();
     m_model->setProject(project);
     if (project != nullptr) {
-        // Many changes may come one after the other; they are read once.
-        connect(project, &TechDB::TDatabase::changed, this, [this] { m_pendingRefresh.start(); });
+        connect(project, &TechDB::TDatabase::changed, this, &ProjectTree::refreshSoon);
     }
     refresh();
+}
+
+void ProjectTree::refreshSoon() {
+    m_pendingRefresh.start();
 }
 
 void ProjectTree::refresh() {

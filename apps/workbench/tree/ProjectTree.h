@@ -31,6 +31,9 @@ public:
     void setProject(TechDB::TDatabase* project);
     /// Reads the project anew: another window may have written its file.
     void refresh();
+    /// The same once the events at hand are done: many changes may come one after the other, and are read
+    /// once.
+    void refreshSoon();
 
     /// The selected datasets and analyses from top to bottom. A sample is no object of its own.
     QList<const VKObject2*> selectedObjects() const;
