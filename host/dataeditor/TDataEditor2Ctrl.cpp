@@ -7,6 +7,7 @@
 #include "VKError.h"
 
 #include <exception>
+#include <utility>
 
 namespace {
 
@@ -25,17 +26,24 @@ TechDB::TDatabase* projectDatabase() {
 TDataEditor2Ctrl::TDataEditor2Ctrl() = default;
 
 TDataEditor2Ctrl::~TDataEditor2Ctrl() {
-    if (!m_writer) {
-        return;
+    commit();
+}
+
+bool TDataEditor2Ctrl::commit() {
+    const std::unique_ptr<DatasetWriter> writer = std::move(m_writer); // takes all back unless it commits
+    if (!writer) {
+        return true;
     }
     try {
-        m_writer->commit();
+        writer->commit();
+        return true;
     } catch (const std::exception& error) {
         MessageLoggerInterface::Error(
             tr("What was imported could not be stored; the project is as it was: %1",
                "Ce qui a été importé n'a pas pu être enregistré ; le projet est "
                "inchangé : %1")
                 .arg(reasonOf(error)));
+        return false;
     }
 }
 

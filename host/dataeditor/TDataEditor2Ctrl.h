@@ -14,16 +14,15 @@ class TDatabase;
 }
 
 /// Stores tables as samples of datasets. What one object saves is one transaction of one database: it begins
-/// with the first save and is written for good when the object is destroyed, so that a crash leaves the old
-/// datasets whole. The database outlives the object, and no dialog is shown in between: no other window can
-/// write meanwhile.
+/// with the first save and is written for good by `commit`, at the latest when the object is destroyed, so
+/// that a crash leaves the old datasets whole. The database outlives the object, and no dialog is shown in
+/// between: no other window can write meanwhile.
 class TDataEditor2Ctrl {
     Q_DECLARE_TR_FUNCTIONS(TDataEditor2Ctrl)
 
 public:
     TDataEditor2Ctrl();
-    /// Commits what was saved, also after a save that failed. If that can't be written, the log holds an
-    /// Error and the project is as it was before.
+    /// As `commit`, for what is not committed yet. Nobody learns whether it came about but by the log.
     ~TDataEditor2Ctrl();
     TDataEditor2Ctrl(const TDataEditor2Ctrl&) = delete;
     TDataEditor2Ctrl& operator=(const TDataEditor2Ctrl&) = delete;
@@ -45,6 +44,11 @@ public:
     /// a number that is not finite. Throws nothing.
     bool save(QAbstractItemModel* model, const QString& dataset, const QString& sample, int role,
               TechDB::TDatabase* database);
+
+    /// Writes for good what was saved, also after a save that failed. False, with the cause as an Error on
+    /// the log and the project as it was before, if that can't be written: on a full disk every save may
+    /// succeed and this fail. Datasets saved into afterwards count as having existed before. Throws nothing.
+    bool commit();
 
 private:
     void store(const QAbstractItemModel* model, const QString& dataset, const QString& sample, int role,

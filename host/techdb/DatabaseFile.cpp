@@ -133,6 +133,13 @@ void checkTarget(const SqlConnection& connection, const QString& target) {
     }
 }
 
+/// With what the engine may have left beside it.
+void remove(const QString& path) {
+    for (const char* const end : {"", "-journal", "-wal", "-shm"}) {
+        QFile::remove(path + QLatin1String(end));
+    }
+}
+
 bool isWhole(DatabaseKind kind, const QString& path) {
     bool whole = false;
     const std::unique_ptr<SqlConnection> connection = connected(kind, path);
@@ -160,13 +167,14 @@ std::unique_ptr<SqlConnection> create(const QString& path, const DatabaseSchema&
     file.close();
     try {
         std::unique_ptr<SqlConnection> connection = connected(schema.kind(), path);
-        setUpOfOwn(*connection);
         SqlTransaction transaction(*connection);
         schema.create(*connection, QUuid::createUuid().toString(QUuid::WithoutBraces), StoredInstant::now());
         transaction.commit();
+        // Not before: what is committed to a log reaches the file later, and a full disk may keep it out.
+        setUpOfOwn(*connection);
         return connection;
     } catch (...) {
-        file.remove();
+        remove(path);
         throw;
     }
 }
@@ -191,7 +199,7 @@ std::unique_ptr<SqlConnection> openOrCreate(const QString& path, const DatabaseS
         const QString made = path + QLatin1Char('.') + QUuid::createUuid().toString(QUuid::Id128);
         create(made, schema).reset();
         if (!QFile::rename(made, path)) { // which replaces nothing
-            QFile::remove(made);
+            remove(made);
         }
     }
     return open(path, schema);

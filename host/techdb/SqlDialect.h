@@ -9,7 +9,7 @@ class QSqlError;
 namespace TechDB {
 
 /// What a statement can fail of, as far as the user or the code can answer it.
-enum class SqlFailure { Busy, ReadOnly, Full, Damaged, NotADatabase, CannotOpen, NameTaken, Other };
+enum class SqlFailure { Busy, ReadOnly, Full, Disk, Damaged, NotADatabase, CannotOpen, NameTaken, Other };
 
 /// All that differs between one database engine and another. Everything else is SQL that they share.
 ///

@@ -21,6 +21,9 @@ QString whatHappened(SqlFailure failure) {
     case SqlFailure::Full:
         return translated("The disk of the %2 <b>%1</b> is full; nothing was written.",
                           "Le disque du %2 <b>%1</b> est plein ; rien n'a été écrit.");
+    case SqlFailure::Disk: // also a used-up quota, which the engine does not tell from a broken disk
+        return translated("The disk of the %2 <b>%1</b> can't be read or written.",
+                          "Le disque du %2 <b>%1</b> ne peut pas être lu ou écrit.");
     case SqlFailure::Damaged:
         return translated("The %2 <b>%1</b> is damaged.", "Le %2 <b>%1</b> est endommagé.");
     case SqlFailure::NotADatabase:
@@ -50,6 +53,9 @@ QString whatToDo(SqlFailure failure, DatabaseKind kind) {
                           "aussi, ou copiez-le dans un de vos dossiers.");
     case SqlFailure::Full:
         return translated("Free some space and try again.", "Libérez de la place et essayez à nouveau.");
+    case SqlFailure::Disk:
+        return translated("Check its connection, its free space and your share of it, and try again.",
+                          "Vérifiez sa connexion, sa place libre et votre quota, puis essayez à nouveau.");
     case SqlFailure::NotADatabase:
         return translated("Choose a file that was saved as a %1.",
                           "Choisissez un fichier enregistré comme %1.")

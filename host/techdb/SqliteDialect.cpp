@@ -65,6 +65,8 @@ SqlFailure SqliteDialect::failureOf(const QSqlError& error) const {
         return SqlFailure::Busy;
     case 8:
         return SqlFailure::ReadOnly;
+    case 10:
+        return SqlFailure::Disk;
     case 11:
         return SqlFailure::Damaged;
     case 13:

@@ -278,7 +278,8 @@ void VornCtrl::saveDatasets(QAbstractItemModel* model, const QString& fileName) 
     if (auto* const table = dynamic_cast<VKDataModelGeneric*>(model)) {
         table->transpose();
     }
-    if (!dataEditor.save(model, finalName, m_moduleLabel, DATASET_ROLE, nullptr)) {
+    // Committed before it is called a success: only then is it known that the disk takes it.
+    if (!dataEditor.save(model, finalName, m_moduleLabel, DATASET_ROLE, nullptr) || !dataEditor.commit()) {
         throw VKError(tr("An error occurred while saving dataset generated from file: <b>%1</b>",
                          "Une erreur est survenue lors de la sauvegarde de l'ensemble de données issues du "
                          "fichier : <b>%1</b>")

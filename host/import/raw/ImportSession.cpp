@@ -21,7 +21,9 @@ ImportSession::ImportSession(const QString& folder)
         throw VKError(
             tr("The folder <b>%1</b> can't be written.", "Le dossier <b>%1</b> ne peut pas être écrit.")
                 .arg(QDir::toNativeSeparators(folder).toHtmlEscaped()),
-            {}, tr("Check its permissions.", "Vérifiez ses permissions."));
+            {},
+            tr("Check its permissions and the space on the disk.",
+               "Vérifiez ses permissions et la place sur le disque."));
     }
     const QStringList files = QDir(folder).entryList({QLatin1Char('*') + extension()}, QDir::Files);
     for (const QString& file : files) {

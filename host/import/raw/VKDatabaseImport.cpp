@@ -222,6 +222,9 @@ QString VKDatabaseImport::givenOut(const QString& wanted) {
     }
     Transaction transaction(*this); // no other window gives out names meanwhile
     NameReservations reservations(connection());
+    for (const QString& name : qAsConst(m_toGiveBack)) {
+        reservations.remove(name);
+    }
     if (reservations.contains(wanted)) {
         giveBackOfDeadSessions();
     }
@@ -232,6 +235,7 @@ QString VKDatabaseImport::givenOut(const QString& wanted) {
     });
     reservations.add(name, m_session->id());
     transaction.commit();
+    m_toGiveBack.clear();
     m_givenOut.insert(name, wanted);
     return name;
 }
@@ -260,7 +264,7 @@ void VKDatabaseImport::giveBack(const QString& name) {
         NameReservations(connection()).remove(name);
         transaction.commit();
     } catch (const VKError&) {
-        // The name stays taken until this session has ended; nothing else depends on it.
+        m_toGiveBack.insert(name); // nothing depends on it before the next name is given out
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 
 class ImportSession;
 class MessageLoggerInterface;
@@ -99,6 +100,7 @@ private:
     QString m_rootFolder;
     std::unique_ptr<ImportSession> m_session;
     QHash<QString, QString> m_givenOut; // with the name that was asked for
+    QSet<QString> m_toGiveBack;         // could not be written when they were given back
     QHash<QString, WrittenFile> m_written;
     QHash<QString, qint64> m_standsFor;
 };

@@ -1,5 +1,6 @@
 #include "TDataEditor2Ctrl.h"
 
+#include "FullDisk.h"
 #include "MessageCollector.h"
 #include "ProjectFixture.h"
 #include "ProjectMgrInterface.h"
@@ -11,9 +12,7 @@
 #include <QStandardItemModel>
 
 #include <cmath>
-#include <csignal>
 #include <stdexcept>
-#include <sys/resource.h>
 
 using TechDB::SampleTable;
 
@@ -24,26 +23,6 @@ struct Project : ProjectMgrInterface {
     VKDatabaseImport* importDatabase() const override { return nullptr; }
 
     TechDB::TDatabase* database = nullptr;
-};
-
-/// While it lives, no file of this process can grow.
-class FullDisk {
-public:
-    FullDisk() : m_before(signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        const rlimit none{1, m_limit.rlim_max};
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        signal(SIGXFSZ, m_before);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_limit{};
-    sighandler_t m_before;
 };
 
 class DataEditor : public ProjectTest {
@@ -243,7 +222,15 @@ TEST_F(DataEditor, a_commit_that_can_not_be_written_is_told_and_leaves_the_old_d
     EXPECT_TRUE(says(errors(), "could not be stored; the project is as it was"));
     EXPECT_EQ(samples("D"), QStringList("old"));
     TDataEditor2Ctrl again;
-    EXPECT_TRUE(save(again, "D", "S")) << "once there is room";
+    EXPECT_TRUE(save(again, "D", "S"));
+    {
+        const FullDisk disk;
+        EXPECT_FALSE(again.commit());
+    }
+    EXPECT_EQ(samples("D"), QStringList("old"));
+    EXPECT_TRUE(save(again, "D", "S") && again.commit()) << "once there is room";
+    EXPECT_EQ(samples("D"), QStringList("S"));
+    EXPECT_TRUE(again.commit()) << "nothing more to write";
 }
 
 TEST_F(DataEditor, when_the_disk_fills_up_in_between_nothing_half_done_stays) {
