@@ -23,27 +23,24 @@ TechDB::TDatabase* projectDatabase() {
 
 } // namespace
 
-TDataEditor2Ctrl::TDataEditor2Ctrl() = default;
+TDataEditor2Ctrl::TDataEditor2Ctrl() : m_unwinding(std::uncaught_exceptions()) {}
 
-TDataEditor2Ctrl::~TDataEditor2Ctrl() {
-    commit();
-}
-
-bool TDataEditor2Ctrl::commit() {
+TDataEditor2Ctrl::~TDataEditor2Ctrl() noexcept(false) {
     const std::unique_ptr<DatasetWriter> writer = std::move(m_writer); // takes all back unless it commits
     if (!writer) {
-        return true;
+        return;
     }
     try {
         writer->commit();
-        return true;
     } catch (const std::exception& error) {
-        MessageLoggerInterface::Error(
-            tr("What was imported could not be stored; the project is as it was: %1",
-               "Ce qui a été importé n'a pas pu être enregistré ; le projet est "
-               "inchangé : %1")
-                .arg(reasonOf(error)));
-        return false;
+        const QString text =
+            tr("The dataset <b>%1</b> could not be stored; the project is as it was: %2",
+               "L'ensemble de données <b>%1</b> n'a pas pu être enregistré ; le projet est inchangé : %2")
+                .arg(m_datasets.join(QStringLiteral(", ")).toHtmlEscaped(), reasonOf(error));
+        if (std::uncaught_exceptions() == m_unwinding) {
+            throw VKError(text);
+        }
+        MessageLoggerInterface::Error(text); // another failure is under way already
     }
 }
 
@@ -73,6 +70,9 @@ void TDataEditor2Ctrl::store(const QAbstractItemModel* model, const QString& dat
                       tr("Open or make one first.", "Ouvrez ou créez-en un d'abord."));
     }
     writerFor(*target).write(*model, dataset, TechDB::tidiedName(sample), role);
+    if (!m_datasets.contains(dataset)) {
+        m_datasets.append(dataset);
+    }
 }
 
 DatasetWriter& TDataEditor2Ctrl::writerFor(TechDB::TDatabase& database) {

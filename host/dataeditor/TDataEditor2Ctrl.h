@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -14,16 +15,18 @@ class TDatabase;
 }
 
 /// Stores tables as samples of datasets. What one object saves is one transaction of one database: it begins
-/// with the first save and is written for good by `commit`, at the latest when the object is destroyed, so
-/// that a crash leaves the old datasets whole. The database outlives the object, and no dialog is shown in
-/// between: no other window can write meanwhile.
+/// with the first save and is written for good when the object is destroyed, so that a crash leaves the old
+/// datasets whole. The database outlives the object, and no dialog is shown in between: no other window can
+/// write meanwhile. A local variable, never part of another object: its destructor may throw.
 class TDataEditor2Ctrl {
     Q_DECLARE_TR_FUNCTIONS(TDataEditor2Ctrl)
 
 public:
     TDataEditor2Ctrl();
-    /// As `commit`, for what is not committed yet. Nobody learns whether it came about but by the log.
-    ~TDataEditor2Ctrl();
+    /// Commits what was saved, also after a save that failed. If that can't be written, as on a full disk
+    /// where every save may have succeeded, the project is as it was before: throws VKError, the only way to
+    /// say so at this end; while another exception passes it is an Error on the log instead.
+    ~TDataEditor2Ctrl() noexcept(false);
     TDataEditor2Ctrl(const TDataEditor2Ctrl&) = delete;
     TDataEditor2Ctrl& operator=(const TDataEditor2Ctrl&) = delete;
 
@@ -45,17 +48,14 @@ public:
     bool save(QAbstractItemModel* model, const QString& dataset, const QString& sample, int role,
               TechDB::TDatabase* database);
 
-    /// Writes for good what was saved, also after a save that failed. False, with the cause as an Error on
-    /// the log and the project as it was before, if that can't be written: on a full disk every save may
-    /// succeed and this fail. Datasets saved into afterwards count as having existed before. Throws nothing.
-    bool commit();
-
 private:
     void store(const QAbstractItemModel* model, const QString& dataset, const QString& sample, int role,
                TechDB::TDatabase* database);
     DatasetWriter& writerFor(TechDB::TDatabase& database);
     std::unique_ptr<DatasetWriter> begun(TechDB::TDatabase& database);
 
+    const int m_unwinding;
     std::unique_ptr<DatasetWriter> m_writer;
     std::optional<QString> m_whyNotBegun;
+    QStringList m_datasets; // with something saved
 };

@@ -1,7 +1,7 @@
 #include "VKImportCtrl.h"
 
-#include "ImportRockEvalVI.h"
 #include "ImportExcel.h"
+#include "ImportRockEvalVI.h"
 #include "VKImportInterface.h"
 
 namespace {

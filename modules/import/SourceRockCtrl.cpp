@@ -86,10 +86,13 @@ void SourceRockCtrl::importR00(ImportRockEvalVI* importInterface, const QString&
         // French for everybody: laboratories know this sentence and search for it.
         throw VKError(QStringLiteral("Aucune donnée R00 à importer"));
     }
-    TDataEditor2Ctrl dataEditor;
-    setVornParameters(results);
-    // Committed before the project is looked at again, and before it is called a success.
-    if (!dataEditor.save(results, name, analysisType, DATASET_ROLE, nullptr) || !dataEditor.commit()) {
+    bool saved = false;
+    {
+        TDataEditor2Ctrl dataEditor; // commits where it ends, before the project is looked at again
+        setVornParameters(results);
+        saved = dataEditor.save(results, name, analysisType, DATASET_ROLE, nullptr);
+    }
+    if (!saved) {
         throw VKError(
             tr("Error while saving %1", "Erreur lors de la sauvegarde de %1").arg(name.toHtmlEscaped()));
     }

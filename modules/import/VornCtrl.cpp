@@ -265,7 +265,7 @@ void VornCtrl::saveDatasets(QAbstractItemModel* model, const QString& fileName) 
     }
     setVornParameters(model);
     const QSharedPointer<VKDataModelGeneric> emptySample = createTemplateDataset(model);
-    TDataEditor2Ctrl dataEditor;
+    TDataEditor2Ctrl dataEditor; // commits where it ends; a disk that doesn't take it fails the file too
     const int rows = model->rowCount();
     TProgressBarMgr progress(
         rows + 1, tr("Creating datasets : %1", "Création des ensembles de données : %1").arg(fileName), true);
@@ -278,8 +278,7 @@ void VornCtrl::saveDatasets(QAbstractItemModel* model, const QString& fileName) 
     if (auto* const table = dynamic_cast<VKDataModelGeneric*>(model)) {
         table->transpose();
     }
-    // Committed before it is called a success: only then is it known that the disk takes it.
-    if (!dataEditor.save(model, finalName, m_moduleLabel, DATASET_ROLE, nullptr) || !dataEditor.commit()) {
+    if (!dataEditor.save(model, finalName, m_moduleLabel, DATASET_ROLE, nullptr)) {
         throw VKError(tr("An error occurred while saving dataset generated from file: <b>%1</b>",
                          "Une erreur est survenue lors de la sauvegarde de l'ensemble de données issues du "
                          "fichier : <b>%1</b>")

@@ -12,6 +12,7 @@
 #include <QStandardItemModel>
 
 #include <cmath>
+#include <optional>
 #include <stdexcept>
 
 using TechDB::SampleTable;
@@ -213,29 +214,30 @@ TEST_F(DataEditor, without_a_project_or_while_another_window_writes_nothing_is_s
 
 TEST_F(DataEditor, a_commit_that_can_not_be_written_is_told_and_leaves_the_old_dataset) {
     database->addSample(database->addWell("D")->key(), "old", {{"r"}, {"c"}, {1.0}, {}});
-    {
-        auto editor = std::make_unique<TDataEditor2Ctrl>();
-        EXPECT_TRUE(save(*editor, "D", "S"));
-        const FullDisk disk;
-        editor.reset();
-    }
+    const auto saveOnto = [this](std::optional<FullDisk>& disk) {
+        TDataEditor2Ctrl editor;
+        EXPECT_TRUE(save(editor, "D", "S"));
+        disk.emplace();
+    };
+    std::optional<FullDisk> disk;
+    EXPECT_THROW(saveOnto(disk), VKError);
+    disk.reset();
+    EXPECT_EQ(samples("D"), QStringList("old"));
+    const auto failOnTheWay = [this](std::optional<FullDisk>& full) {
+        TDataEditor2Ctrl editor;
+        EXPECT_TRUE(save(editor, "D", "S"));
+        full.emplace();
+        throw std::runtime_error("something else");
+    };
+    EXPECT_THROW(failOnTheWay(disk), std::runtime_error);
+    disk.reset();
     EXPECT_TRUE(says(errors(), "could not be stored; the project is as it was"));
     EXPECT_EQ(samples("D"), QStringList("old"));
-    TDataEditor2Ctrl again;
-    EXPECT_TRUE(save(again, "D", "S"));
-    {
-        const FullDisk disk;
-        EXPECT_FALSE(again.commit());
-    }
-    EXPECT_EQ(samples("D"), QStringList("old"));
-    EXPECT_TRUE(save(again, "D", "S") && again.commit()) << "once there is room";
-    EXPECT_EQ(samples("D"), QStringList("S"));
-    EXPECT_TRUE(again.commit()) << "nothing more to write";
 }
 
 TEST_F(DataEditor, when_the_disk_fills_up_in_between_nothing_half_done_stays) {
     database->addSample(database->addWell("D")->key(), "old", {{"r"}, {"c"}, {1.0}, {}});
-    {
+    const auto fillUp = [this] {
         TDataEditor2Ctrl editor;
         EXPECT_TRUE(save(editor, "D", "S"));
         {
@@ -243,8 +245,9 @@ TEST_F(DataEditor, when_the_disk_fills_up_in_between_nothing_half_done_stays) {
             EXPECT_FALSE(save(editor, "D", "T", QString(10'000'000, 'x'))) << "more than any cache holds";
         }
         EXPECT_FALSE(save(editor, "D", "U")) << "alone it would join the old samples";
-        EXPECT_TRUE(says(errors(), "took back all"));
-    }
-    EXPECT_EQ(log.messages(MessageLevel::Error).size(), 3) << "two samples and the end";
+    };
+    EXPECT_THROW(fillUp(), VKError);
+    EXPECT_TRUE(says(errors(), "took back all"));
+    EXPECT_EQ(log.messages(MessageLevel::Error).size(), 2) << "one a sample";
     EXPECT_EQ(samples("D"), QStringList("old"));
 }
