@@ -152,8 +152,8 @@ bool VornEditor::updateStatuses() {
     }
     int row = 0;
     for (auto file = m_files->cbegin(); file != m_files->cend(); ++file, ++row) {
-        auto* const shown = dynamic_cast<FileRow*>(m_fileTree->topLevelItem(row));
-        if (shown == nullptr || shown->path() != file.key()) {
+        auto* const shown = static_cast<FileRow*>(m_fileTree->topLevelItem(row)); // only this bar adds rows
+        if (shown->path() != file.key()) {
             return false;
         }
         shown->setStatus(file.value(), m_statusIcons);
