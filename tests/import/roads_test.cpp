@@ -1,9 +1,12 @@
 #include "ExampleProject.h"
 #include "ImportModules.h"
 #include "ModalAnswers.h"
+#include "ModuleObserver.h"
 #include "ProjectTree.h"
 #include "TDatabase.h"
+#include "TEditorMatrix.h"
 #include "TableView.h"
+#include "VKDataModel.h"
 #include "VKDatabaseVornMGR.h"
 #include "VKListViewSignal.h"
 #include "VKObject2Analysis.h"
@@ -39,15 +42,6 @@ protected:
         workbench->imports().bar(kind)->closeRequested();
         settle();
         importFiles(kind, paths);
-    }
-    /// The code of each file's icon, by the file's name: 0 plus, 1 done, 2 failed.
-    QStringList listed(Kind kind) {
-        QStringList names;
-        const auto* const tree = workbench->imports().bar(kind)->findChild<QTreeWidget*>();
-        for (int row = 0; row < tree->topLevelItemCount(); ++row) {
-            names += tree->topLevelItem(row)->text(1);
-        }
-        return names;
     }
     QStringList warnings() const { return messages(MessageLevel::Warning); }
     QStringList informations() const { return messages(MessageLevel::Information); }
@@ -89,6 +83,16 @@ TEST_F(ImportRoads, raw_files_end_as_grades_and_plots) {
     EXPECT_EQ(colour(names[0]), QColor(Qt::green));
     EXPECT_EQ(colour(names[1]), QColor("orange"));
     EXPECT_EQ(colour(names[2]), QColor(Qt::red));
+
+    workbench->qualityCheck().bar()->slotEventOccured(ModuleObserver::dataEditorAction);
+    const auto* const table = dynamic_cast<TableView*>(workspace().currentPage());
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->model()->rowCount(), 3);
+    list->selectAll();
+    settle();
+    const auto* const plots = dynamic_cast<TechPlot::TEditorMatrix*>(workspace().currentPage());
+    ASSERT_NE(plots, nullptr);
+    EXPECT_EQ(plots->plots().size(), 3);
 }
 
 TEST_F(ImportRoads, a_table_goes_through_the_wizard_into_the_tree_and_a_table_view) {
