@@ -3,13 +3,14 @@
 #include "MessageLogModel.h"
 
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
+
+#include <ctime>
 
 #include <gtest/gtest.h>
 
@@ -143,15 +144,13 @@ TEST_F(LogPanelTest, follows_the_newest_until_the_user_scrolls_away_and_again_at
 
 TEST_F(LogPanelTest, a_burst_of_messages_does_not_freeze) {
     const QString text = QString("a sentence that is <b>long</b> enough to be wrapped %1 ").repeated(4);
-    QElapsedTimer clock;
-    clock.start();
+    const std::clock_t start = std::clock(); // of this process: the machine may be busy otherwise
     for (int i = 0; i < 5000; ++i) {
         model.log(MessageLevel::Warning, text.arg(i));
     }
     list->grab();
     settle();
-    RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
-    EXPECT_LT(clock.elapsed(), mostMilliseconds);
+    EXPECT_LT(1000 * (std::clock() - start) / CLOCKS_PER_SEC, mostMilliseconds);
     EXPECT_TRUE(atEnd());
     EXPECT_EQ(button("Warning")->text(), "Warning  " + QLocale().toString(5000));
 }
