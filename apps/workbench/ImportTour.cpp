@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QTreeView>
 
 namespace {
@@ -49,6 +48,18 @@ void ImportTour::importRawFiles() {
     closeModule(Kind::SourceRock);
 }
 
+/// The first entry whose name ends so.
+void ImportTour::openFromTree(const QString& end) {
+    const ProjectTree& tree = m_workbench.window().tree();
+    auto* const view = tree.findChild<QTreeView*>();
+    const QModelIndexList found = view->model()->match(view->model()->index(0, 0), Qt::DisplayRole, end, 1,
+                                                       Qt::MatchEndsWith | Qt::MatchRecursive);
+    if (!found.isEmpty()) {
+        view->setCurrentIndex(found.first());
+        tree.openAction()->trigger();
+    }
+}
+
 /// With its list of files, so that they are taken again.
 void ImportTour::closeModule(ImportModules::Kind kind) {
     m_workbench.imports().bar(kind)->closeRequested();
@@ -71,13 +82,8 @@ void ImportTour::importTables() {
     PictureFolder::settle();
     m_workbench.imports().importFiles(Kind::Custom, unknown);
 
-    ProjectTree& tree = m_workbench.window().tree();
-    PictureFolder::settle();
-    auto* const filter = tree.findChild<QLineEdit*>();
-    filter->setText(table);
-    tree.findChild<QTreeView*>()->selectAll();
-    tree.openAction()->trigger();
-    filter->clear();
+    PictureFolder::settle(); // the tree follows the project
+    openFromTree(table);
     PictureFolder::settle();
     m_pictures.write(QStringLiteral("dataset.png"), m_workbench.window());
 }

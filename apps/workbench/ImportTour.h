@@ -21,6 +21,7 @@ public:
     void importTables();
 
 private:
+    void openFromTree(const QString& end);
     void closeModule(ImportModules::Kind kind);
 
     Workbench& m_workbench;

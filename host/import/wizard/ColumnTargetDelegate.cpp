@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QTimer>
 
 namespace {
 
@@ -33,7 +34,10 @@ QWidget* ColumnTargetDelegate::createEditor(QWidget* parent, const QStyleOptionV
     // Editors are made in a const operation, and what they send at the end is not one.
     auto* self = const_cast<ColumnTargetDelegate*>(this); // NOLINT(cppcoreguidelines-pro-type-const-cast)
     connect(box, QOverload<int>::of(&QComboBox::activated), self, [self, box] { self->finish(box); });
-    QMetaObject::invokeMethod(box, &QComboBox::showPopup, Qt::QueuedConnection);
+    auto* opening = new QTimer(box); // once the view has placed it
+    opening->setSingleShot(true);
+    connect(opening, &QTimer::timeout, box, [box] { box->showPopup(); });
+    opening->start(0);
     return box;
 }
 
