@@ -38,6 +38,7 @@ TDataEditor2Ctrl::~TDataEditor2Ctrl() noexcept(false) {
                "L'ensemble de données <b>%1</b> n'a pas pu être enregistré ; le projet est inchangé : %2")
                 .arg(m_datasets.join(QStringLiteral(", ")).toHtmlEscaped(), reasonOf(error));
         if (std::uncaught_exceptions() == m_unwinding) {
+            // cppcheck-suppress exceptThrowInDestructor ; declared so, and never while another one passes
             throw VKError(text);
         }
         MessageLoggerInterface::Error(text); // another failure is under way already
