@@ -3,12 +3,11 @@
 #include "CustomImportCtrl.h"
 #include "GasDataCtrl.h"
 #include "ModuleLauncher.h"
+#include "MouseDrop.h"
 #include "RibbonHost.h"
 #include "SourceRockCtrl.h"
 #include "VKTreeWidget.h"
 
-#include <QCoreApplication>
-#include <QDragEnterEvent>
 #include <QMimeData>
 #include <QUrl>
 
@@ -22,11 +21,7 @@ void ImportModules::start(Kind kind) {
         m_ribbon.addModuleBar(bar(kind), true, true); // there already: comes to the front
         return;
     }
-    // A module enters the ribbon while it makes its editor, and tells nobody else which bar is its own.
-    const auto noting = connect(&m_ribbon, &RibbonHost::barAdded, this,
-                                [this, kind](VKRibbonModuleBar* bar) { m_bars[kind] = bar; });
-    make(kind);
-    disconnect(noting);
+    m_bars[kind] = m_ribbon.barAddedBy([this, kind] { make(kind); });
 }
 
 void ImportModules::importFiles(Kind kind, const QStringList& paths) {
@@ -37,13 +32,7 @@ void ImportModules::importFiles(Kind kind, const QStringList& paths) {
         files.append(QUrl::fromLocalFile(path));
     }
     data.setUrls(files);
-    QWidget* const target = bar(kind)->findChild<VKTreeWidget*>()->viewport();
-    const QPoint place = target->rect().center();
-    // Only what was entered can be dropped on.
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &enter);
-    QDropEvent drop(place, Qt::CopyAction, &data, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &drop);
+    MouseDrop::on(*bar(kind)->findChild<VKTreeWidget*>()->viewport(), data);
     QMetaObject::invokeMethod(bar(kind), "slotImportButton");
 }
 

@@ -3,6 +3,7 @@
 #include "LearningExport.h"
 #include "MessageLoggerInterface.h"
 #include "ModuleLauncher.h"
+#include "MouseDrop.h"
 #include "RibbonHost.h"
 #include "SliderScientific.h"
 #include "SourceRockQAQCCtrl.h"
@@ -11,8 +12,6 @@
 #include "VKObject2Decoder.h"
 #include "Workspace.h"
 
-#include <QCoreApplication>
-#include <QDragEnterEvent>
 #include <QMimeData>
 
 #include <memory>
@@ -27,11 +26,8 @@ void QualityCheck::start() {
         m_ribbon.addModuleBar(m_bar, true, true); // there already: comes to the front
         return;
     }
-    // The module enters the ribbon while it is constructed, and tells nobody else which bar is its own.
-    const auto noting =
-        connect(&m_ribbon, &RibbonHost::barAdded, this, [this](VKRibbonModuleBar* bar) { m_bar = bar; });
-    auto* const controller = new Vorn::SourceRockQAQC::SourceRockQAQCCtrl;
-    disconnect(noting);
+    Vorn::SourceRockQAQC::SourceRockQAQCCtrl* controller = nullptr;
+    m_bar = m_ribbon.barAddedBy([&controller] { controller = new Vorn::SourceRockQAQC::SourceRockQAQCCtrl; });
     m_launcher.adopt(controller);
     m_gate->guard(m_bar);
     const QList<SliderScientific*> sliders = m_bar->findChildren<SliderScientific*>();
@@ -50,14 +46,8 @@ void QualityCheck::send(const QList<const VKObject2*>& objects) {
         return;
     }
     start();
-    QWidget* const target = list()->viewport();
     const std::unique_ptr<QMimeData> data(VKObject2Decoder::encode(objects));
-    const QPoint place = target->rect().center();
-    // Only what was entered can be dropped on.
-    QDragEnterEvent enter(place, Qt::CopyAction, data.get(), Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &enter);
-    QDropEvent drop(place, Qt::CopyAction, data.get(), Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &drop);
+    MouseDrop::on(*list()->viewport(), *data);
 }
 
 void QualityCheck::exportForLearning() {

@@ -3,6 +3,8 @@
 #include "VKRibbon.h"
 #include "VKRibbonModuleBar.h"
 
+#include <utility>
+
 RibbonHost::RibbonHost(VKRibbon& ribbon) : m_ribbon(ribbon) {}
 
 RibbonHost::~RibbonHost() = default;
@@ -14,10 +16,16 @@ void RibbonHost::addModuleBar(VKRibbonModuleBar* bar, bool current, bool closabl
     const bool known = m_ribbon.bars().contains(bar);
     m_ribbon.addBar(bar, closable, current);
     if (!known) {
-        emit barAdded(bar);
+        m_added = bar;
     }
 }
 
 void RibbonHost::removeModuleBar(VKRibbonModuleBar* bar) {
     m_ribbon.removeBar(bar);
+}
+
+VKRibbonModuleBar* RibbonHost::barAddedBy(const std::function<void()>& make) {
+    m_added = nullptr;
+    make();
+    return std::exchange(m_added, nullptr);
 }

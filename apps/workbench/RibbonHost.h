@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class VKRibbon;
 
 /// The main window's ribbon as modules reach it. The ribbon outlives this object.
@@ -17,10 +19,11 @@ public:
     void addModuleBar(VKRibbonModuleBar* bar, bool current, bool closable) override;
     void removeModuleBar(VKRibbonModuleBar* bar) override;
 
-signals:
-    /// A bar that was not there before has entered the ribbon.
-    void barAdded(VKRibbonModuleBar* bar);
+    /// The bar that enters the ribbon while `make` runs, null if none does: a module enters while it is made,
+    /// and tells nobody else which bar is its own.
+    VKRibbonModuleBar* barAddedBy(const std::function<void()>& make);
 
 private:
     VKRibbon& m_ribbon;
+    VKRibbonModuleBar* m_added = nullptr;
 };
