@@ -1,10 +1,10 @@
+#include "desktopapplication.h"
 #include "measuredcurve.h"
 
 #include "MessageLogModel.h"
 #include "ProjectTree.h"
 #include "SliderScientific.h"
 #include "TDatabase.h"
-#include "TavrelStyle.h"
 #include "Transaction.h"
 #include "VKListViewSignal.h"
 #include "VKObject2Signal.h"
@@ -18,10 +18,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
-#include <QSettings>
 #include <QSlider>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <malloc.h>
@@ -211,14 +208,7 @@ BENCHMARK(memoryPerAnalysis)->Name("memory_per_analysis")->Iterations(1)->Unit(b
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QStandardPaths::setTestModeEnabled(true);
-    TavrelStyle::prepareApplication();
-    QApplication application(argc, argv);
-    const QTemporaryDir settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    QCoreApplication::setOrganizationName("vorn-benchmark");
-    QApplication::setStyle(new TavrelStyle);
+    const DesktopApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -1,10 +1,10 @@
+#include "desktopapplication.h"
 #include "importdesk.h"
 #include "measuredcurve.h"
 #include "storedrows.h"
 
 #include "SqliteDialect.h"
 #include "TDatabase.h"
-#include "TavrelStyle.h"
 #include "WorkbookFile.h"
 #include "WorkbookReader.h"
 #include "rockeval/channels.h"
@@ -13,14 +13,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QSettings>
 #include <QSqlQuery>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -335,14 +332,7 @@ int run(const QStringList& arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QStandardPaths::setTestModeEnabled(true);
-    TavrelStyle::prepareApplication();
-    QApplication application(argc, argv);
-    const QTemporaryDir settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    QCoreApplication::setOrganizationName("vorn-benchmark");
-    QApplication::setStyle(new TavrelStyle);
+    const DesktopApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     QStringList arguments;
     for (int i = 1; i < argc; ++i) {

@@ -15,27 +15,6 @@ QString translated(const char* english, const char* french) {
     return QCoreApplication::translate("ModelSample", english, french);
 }
 
-bool isNumber(const QVariant& value) {
-    switch (value.userType()) {
-    case QMetaType::Double:
-    case QMetaType::Float:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Long:
-    case QMetaType::ULong:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-    case QMetaType::Char:
-    case QMetaType::SChar:
-    case QMetaType::UChar:
-        return true;
-    default:
-        return false;
-    }
-}
-
 void checkSize(qint64 rows, qint64 columns) {
     if (rows * columns <= TechDB::SampleStore::maximumCells) {
         return;
@@ -64,7 +43,7 @@ QVariant cell(const QModelIndex& index, int role) {
     if (value.isNull()) {
         return {};
     }
-    if (isNumber(value)) {
+    if (VKDataModel::isNumber(value)) {
         return value.toDouble();
     }
     const QString text = value.toString();

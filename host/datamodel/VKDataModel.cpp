@@ -16,3 +16,24 @@ void VKDataModel::setProperties(const QList<TProperty>& properties) {
 bool VKDataModel::isValueRole(int role) {
     return role == Qt::DisplayRole || role == Qt::EditRole || role == datasetRole;
 }
+
+bool VKDataModel::isNumber(const QVariant& value) {
+    switch (value.userType()) {
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
+        return true;
+    default:
+        return false;
+    }
+}

@@ -29,6 +29,8 @@ public:
 
     /// Whether a role is one of the three that read and write a table's one value.
     static bool isValueRole(int role);
+    /// Whether a value is a number by its type; texts are not.
+    static bool isNumber(const QVariant& value);
 
 private:
     QString m_name;

@@ -1,6 +1,7 @@
 #include "CellDelegate.h"
 
 #include "CellText.h"
+#include "VKDataModel.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -32,7 +33,7 @@ QString CellDelegate::displayText(const QVariant& value, const QLocale& locale) 
 
 void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (CellText::isNumber(index.data())) {
+    if (VKDataModel::isNumber(index.data())) {
         option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
     }
 }

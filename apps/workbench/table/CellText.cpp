@@ -47,19 +47,3 @@ QString CellText::of(const QVariant& value, QChar decimalPoint) {
         return value.toString();
     }
 }
-
-bool CellText::isNumber(const QVariant& value) {
-    switch (value.userType()) {
-    case QMetaType::Double:
-    case QMetaType::Float:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-        return true;
-    default:
-        return false;
-    }
-}

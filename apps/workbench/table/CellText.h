@@ -10,7 +10,4 @@ class QVariant;
 class CellText {
 public:
     static QString of(const QVariant& value, QChar decimalPoint = QLatin1Char('.'));
-
-    /// Whether the value is a number by its type; texts are not.
-    static bool isNumber(const QVariant& value);
 };

@@ -1,6 +1,7 @@
 #include "SortKey.h"
 
 #include "CellText.h"
+#include "VKDataModel.h"
 
 #include <QLocale>
 #include <QVariant>
@@ -8,7 +9,7 @@
 #include <cmath>
 
 SortKey::SortKey(const QVariant& value, const QCollator& collator) {
-    bool isNumber = CellText::isNumber(value);
+    bool isNumber = VKDataModel::isNumber(value);
     const QString text = isNumber ? QString() : CellText::of(value).trimmed();
     m_number = isNumber ? value.toDouble() : QLocale::c().toDouble(text, &isNumber);
     if (isNumber && !std::isnan(m_number)) {
