@@ -1,12 +1,12 @@
 #include "ImportExcel.h"
 
 #include "MessageLoggerInterface.h"
+#include "RegularFile.h"
 #include "TFileBuffer.h"
 #include "WorkbookModel.h"
 #include "WorkbookReader.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -48,29 +48,17 @@ QString ImportExcel::refusalOf(const TFileBuffer& buffer, const QString& path) {
     if (!buffer.isEmpty()) {
         return refusalOf(buffer.data().left(WorkbookReader::beginningSize));
     }
-    const QFileInfo info(path);
-    if (!info.exists()) {
-        return tr("it does not exist; check where it was moved.",
-                  "il n'existe pas ; vérifiez son emplacement.");
-    }
-    if (!info.isFile()) { // opening a pipe would wait for a writer
-        return tr("it is no regular file; choose a file.",
-                  "ce n'est pas un fichier ordinaire ; choisissez un fichier.");
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return tr("%1; check your right to read it.", "%1 ; vérifiez votre droit de le lire.")
-            .arg(file.errorString().toHtmlEscaped());
-    }
-    return refusalOf(file.read(WorkbookReader::beginningSize));
+    RegularFile file(path);
+    const QByteArray beginning = file.read(WorkbookReader::beginningSize);
+    return file.refusal().isEmpty() ? refusalOf(beginning) : file.refusal();
 }
 
 QString ImportExcel::refusalOf(const QByteArray& beginning) {
     if (WorkbookReader::looksLikeWorkbook(beginning)) {
         return {};
     }
-    return tr("its content is no Excel workbook, whatever its name; save it as one.",
-              "son contenu n'est pas un classeur Excel, quel que soit son nom ; enregistrez-le comme tel.");
+    return tr("its content is no Excel workbook, whatever its name; save it as one",
+              "son contenu n'est pas un classeur Excel, quel que soit son nom ; enregistrez-le comme tel");
 }
 
 void ImportExcel::setSource(const QString&, const QString& name, const QString&, TFileBuffer* buffer) {

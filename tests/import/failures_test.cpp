@@ -206,7 +206,7 @@ TEST_F(ImportFailures, files_that_vanish_before_they_are_offered_are_named) {
     QFile::remove(paths[0]);
     QFile::remove(paths[2]);
     pressImport();
-    expectTold({"X.S00", "lab.xlsx", "it does not exist", "there is no such file", "check where it was"});
+    expectTold({"X.S00", "lab.xlsx", "it does not exist; check where it was"});
     EXPECT_EQ(count(VornCtrl::ImportPending, paths), 2) << "no reader took them";
     EXPECT_TRUE(holds(paths[1]));
     expectThatAnOrdinaryImportWorks();

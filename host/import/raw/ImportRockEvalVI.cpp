@@ -2,6 +2,7 @@
 
 #include "MessageLoggerInterface.h"
 #include "RawFileKind.h"
+#include "RegularFile.h"
 #include "RockEvalResults.h"
 #include "TFileBuffer.h"
 #include "VKDataModelGeneric.h"
@@ -12,7 +13,6 @@
 #include "rockeval/resultreader.h"
 #include "rockeval/signalreader.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -61,29 +61,10 @@ void logWarnings(const QString& name, const std::vector<rockeval::Warning>& warn
 
 /// The first bytes of a file on disk. Throws VKError.
 QByteArray headOf(const QString& path) {
-    const auto refuse = [&path](const QString& cause) { throw VKError(remark(shown(path), 0, cause)); };
-    const QFileInfo info(path);
-    if (!info.exists()) {
-        refuse(ImportRockEvalVI::tr("there is no such file; check where it was moved",
-                                    "ce fichier n'existe pas ; vérifiez son emplacement"));
-    }
-    if (!info.isFile()) { // a pipe would never end
-        refuse(
-            ImportRockEvalVI::tr("this is no regular file; choose a .S00 or .R00 file",
-                                 "ce n'est pas un fichier ordinaire ; choisissez un fichier .S00 ou .R00"));
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        refuse(ImportRockEvalVI::tr("the file can't be opened (%1); check its permissions",
-                                    "le fichier ne peut pas être ouvert (%1) ; vérifiez ses permissions")
-                   .arg(file.errorString().toHtmlEscaped()));
-    }
+    RegularFile file(path);
     QByteArray head = file.read(RawFileKind::headSize);
-    if (file.error() != QFileDevice::NoError) {
-        refuse(ImportRockEvalVI::tr(
-                   "the file can't be read (%1); check the drive and copy the file again",
-                   "le fichier ne peut pas être lu (%1) ; vérifiez le disque et copiez-le à nouveau")
-                   .arg(file.errorString().toHtmlEscaped()));
+    if (!file.refusal().isEmpty()) {
+        throw VKError(remark(shown(path), 0, file.refusal()));
     }
     return head;
 }

@@ -69,7 +69,7 @@ TEST_F(RawFiles, are_known_by_name_and_by_content) {
 
     ASSERT_EQ(mkfifo(qPrintable(path("pipe.S00")), 0600), 0);
     const std::vector<std::pair<QString, std::string>> refused{
-        {path("missing.S00"), "<b>missing.S00</b>: there is no such file"},
+        {path("missing.S00"), "<b>missing.S00</b>: it does not exist"},
         {path("pipe.S00"), "no regular file"},
         {write("empty.S00", ""), "no section"},
         {write("<i>.R00", "PK\x03\x04[x]"), "<b>&lt;i&gt;.R00</b>: no section"},
