@@ -21,7 +21,7 @@ QByteArray RegularFile::read(qint64 size) {
     if (!m_file.isOpen()) {
         return {};
     }
-    const QByteArray bytes = m_file.read(size);
+    QByteArray bytes = m_file.read(size);
     if (m_file.error() != QFileDevice::NoError) {
         m_refusal = tr("it can't be read (%1); check the drive and copy the file again",
                        "il ne peut pas être lu (%1) ; vérifiez le disque et copiez-le à nouveau")
