@@ -153,6 +153,17 @@ std::filesystem::path native(const QString& path) {
     return std::filesystem::path(path.toStdU16String());
 }
 
+/// Gives a finished file its name, unless another one got it meanwhile. A link is refused then; Qt's renaming
+/// would see that the name is taken and copy the content over the file that another window works with.
+void giveName(const QString& made, const QString& path) {
+    std::error_code failure;
+    std::filesystem::create_hard_link(native(made), native(path), failure);
+    if (failure && !QFileInfo::exists(path)) { // a file system without links
+        std::filesystem::rename(native(made), native(path), failure);
+    }
+    remove(made);
+}
+
 } // namespace
 
 std::unique_ptr<SqlConnection> create(const QString& path, const DatabaseSchema& schema) {
@@ -198,9 +209,7 @@ std::unique_ptr<SqlConnection> openOrCreate(const QString& path, const DatabaseS
     if (!QFileInfo::exists(path)) {
         const QString made = path + QLatin1Char('.') + QUuid::createUuid().toString(QUuid::Id128);
         create(made, schema).reset();
-        if (!QFile::rename(made, path)) { // which replaces nothing
-            remove(made);
-        }
+        giveName(made, path);
     }
     return open(path, schema);
 }

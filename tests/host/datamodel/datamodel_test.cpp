@@ -8,6 +8,8 @@
 #include <QSortFilterProxyModel>
 
 #include <limits>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -44,7 +46,8 @@ protected:
     }
 
     VKDataModelGeneric model;
-    QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Warning};
+    std::optional<QAbstractItemModelTester> tester{std::in_place, &model,
+                                                   QAbstractItemModelTester::FailureReportingMode::Warning};
     QSortFilterProxyModel proxy;
 };
 
@@ -101,6 +104,7 @@ TEST_F(DataModel, transposing_turns_cells_and_headers) {
     model.transpose();
     EXPECT_EQ(content(), "/ r0 r1\nc0 0.0 1.0\nc1 0.1 1.1\nc2 0.2 1.2");
     EXPECT_EQ(model.headerData(1, Qt::Horizontal, 5), "id");
+    tester.reset(); // that of Qt 5.15.3 takes rows without columns for a fault
     model.createEmpty(0, 4);
     model.transpose();
     EXPECT_EQ(model.columnCount(), 4);
@@ -144,6 +148,7 @@ TEST_F(DataModel, a_size_beyond_the_limit_is_refused_and_changes_nothing) {
     EXPECT_THROW(model.createEmpty(most, most), VKError);
     EXPECT_THROW(model.createEmpty(100'000'001, 1), VKError);
     EXPECT_EQ(content(), before);
+    tester.reset(); // that of Qt 5.15.3 takes rows without columns for a fault
     model.createEmpty(-1, 3);
     EXPECT_EQ(model.columnCount(), 0);
     EXPECT_EQ(model.rowCount(), 3);
