@@ -70,6 +70,16 @@ void LogList::updateGeometries() {
     }
 }
 
+// When the mouse leaves, as it does when a dialog opens over it, Qt lays new rows out while it holds a
+// reference to the row that was under the mouse. That layout scrolls to the end, which puts another row under
+// the mouse and frees the one referred to. So the layout is made before.
+bool LogList::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Leave || event->type() == QEvent::HoverLeave) {
+        executeDelayedItemsLayout();
+    }
+    return QTreeView::viewportEvent(event);
+}
+
 void LogList::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
     if (event->size().width() != event->oldSize().width()) {

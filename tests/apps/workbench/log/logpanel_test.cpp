@@ -3,6 +3,7 @@
 #include "MessageLogModel.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -74,6 +75,20 @@ TEST(LogText, markup_it_does_not_know_is_text) {
     EXPECT_FALSE(text.formats().at(0).format.fontItalic());
     EXPECT_TRUE(text.formats().at(1).format.fontItalic());
     EXPECT_EQ(text.formats().at(1).length, 4);
+}
+
+TEST_F(LogPanelTest, a_window_that_opens_over_the_mouse_may_come_before_new_messages_are_laid_out) {
+    list->viewport()->setAttribute(Qt::WA_Hover); // as the style of the window does
+    log(100);
+    const QPoint inside = list->viewport()->rect().center();
+    for (int i = 0; i < 20; ++i) {
+        QTest::mouseMove(list->viewport(), inside + QPoint(i, 0));
+        settle();
+        model.log(MessageLevel::Warning, "one\nmore");
+        QEvent left(QEvent::Leave);
+        QCoreApplication::sendEvent(list->viewport(), &left);
+        EXPECT_TRUE(atEnd());
+    }
 }
 
 TEST_F(LogPanelTest, hostile_markup_is_shown_as_it_stands) {
