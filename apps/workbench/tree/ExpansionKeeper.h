@@ -16,7 +16,7 @@ class ExpansionKeeper : public QObject {
     Q_OBJECT
 
 public:
-    /// Neither is owned; the view shows the model.
+    /// Neither is owned; the view shows the model already, so that it hears of new rows first.
     ExpansionKeeper(QTreeView* view, const ProjectFilterModel* model);
     ~ExpansionKeeper() override;
 

@@ -39,14 +39,13 @@ QList<const VKObject2*> analysesAmong(QList<const VKObject2*> objects) {
 
 ProjectTree::ProjectTree(QWidget* parent)
     : QWidget(parent), m_model(new ProjectTreeModel(this)), m_shown(new ProjectFilterModel(m_model, this)),
-      m_filter(new QLineEdit(this)), m_view(new ProjectView(this)),
+      m_filter(new QLineEdit(this)), m_view(new ProjectView(*m_shown, this)),
       m_expansion(new ExpansionKeeper(m_view, m_shown)),
       m_open(addCommand(QStringLiteral("table"), &ProjectTree::open)),
       m_rename(addCommand(QStringLiteral("rename"), &ProjectTree::rename)),
       m_remove(addCommand(QStringLiteral("delete_generic"), &ProjectTree::removeSelected)),
       m_export(addCommand(QStringLiteral("export"), &ProjectTree::exportSelected)),
       m_send(addCommand(QStringLiteral("send"), &ProjectTree::send)) {
-    m_view->setModel(m_shown);
     // Enter belongs to the line that is edited wherever there is one.
     m_open->setShortcutContext(Qt::WidgetShortcut);
     m_open->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});

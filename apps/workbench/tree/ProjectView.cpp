@@ -19,7 +19,7 @@ constexpr int branchIndent = 16;
 
 } // namespace
 
-ProjectView::ProjectView(QWidget* parent) : QTreeView(parent) {
+ProjectView::ProjectView(QAbstractItemModel& model, QWidget* parent) : QTreeView(parent) {
     setFrameShape(QFrame::NoFrame);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -31,12 +31,13 @@ ProjectView::ProjectView(QWidget* parent) : QTreeView(parent) {
     setTextElideMode(Qt::ElideMiddle);
     setHorizontalScrollMode(ScrollPerPixel);
     setItemDelegate(new NameDelegate(this));
+    setModel(&model);
+    setUpHeader();
 }
 
 ProjectView::~ProjectView() = default;
 
-void ProjectView::setModel(QAbstractItemModel* newModel) {
-    QTreeView::setModel(newModel);
+void ProjectView::setUpHeader() {
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
     header()->setSectionResizeMode(QHeaderView::Fixed);
@@ -98,8 +99,7 @@ void ProjectView::rowsInserted(const QModelIndex& parent, int first, int last) {
 void ProjectView::keyPressEvent(QKeyEvent* event) {
     const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const QModelIndex branch = currentIndex().siblingAtColumn(0);
-    if (enters && event->modifiers() == Qt::NoModifier && model() != nullptr &&
-        model()->hasChildren(branch)) {
+    if (enters && event->modifiers() == Qt::NoModifier && model()->hasChildren(branch)) {
         setExpanded(branch, !isExpanded(branch));
         return;
     }

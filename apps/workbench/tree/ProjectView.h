@@ -11,10 +11,9 @@ class ProjectView : public QTreeView {
     Q_OBJECT
 
 public:
-    explicit ProjectView(QWidget* parent = nullptr);
+    /// The model is not owned.
+    explicit ProjectView(QAbstractItemModel& model, QWidget* parent = nullptr);
     ~ProjectView() override;
-
-    void setModel(QAbstractItemModel* model) override;
 
     /// Plain text, shown while there is no row.
     void setHint(const QString& hint);
@@ -35,7 +34,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    bool isEmpty() const { return model() == nullptr || model()->rowCount() == 0; }
+    bool isEmpty() const { return model()->rowCount() == 0; }
+    void setUpHeader();
     void sizeColumns();
     void spanNames(const QModelIndex& parent, int first, int last);
 

@@ -68,6 +68,22 @@ TEST_F(TreeTest, filter_keeps_hits_in_either_case_with_what_they_belong_to) {
     EXPECT_FALSE(view().isExpanded(find(QStringLiteral("Other"))));
 }
 
+TEST_F(TreeTest, rows_that_come_leave_branches_as_they_were) {
+    add(QStringLiteral("well"));
+    settle();
+    view().grab(); // lays the rows out, as what is on the screen has been
+    addDataset(QStringLiteral("Ridge"), {QStringLiteral("north")});
+    settle();
+    EXPECT_TRUE(view().isExpanded(find(QStringLiteral("Datasets")))) << "the section came before another";
+    EXPECT_FALSE(view().isExpanded(find(QStringLiteral("Ridge"))));
+    view().grab();
+    view().expand(find(QStringLiteral("Ridge")));
+    addDataset(QStringLiteral("Basin"), {QStringLiteral("south")});
+    settle();
+    EXPECT_TRUE(view().isExpanded(find(QStringLiteral("Ridge"))));
+    EXPECT_FALSE(view().isExpanded(find(QStringLiteral("Basin"))));
+}
+
 TEST_F(TreeTest, an_empty_place_says_why) {
     const auto& place = *tree.findChild<ProjectView*>();
     EXPECT_TRUE(place.hint().contains(QStringLiteral("holds nothing yet")));
