@@ -1,8 +1,12 @@
 #include "VKTreeWidget.h"
 
+#include "TFileButton.h"
 #include "TavrelColors.h"
 
+#include <QClipboard>
 #include <QDropEvent>
+#include <QGuiApplication>
+#include <QHeaderView>
 #include <QMetaMethod>
 #include <QMimeData>
 #include <QPainter>
@@ -43,19 +47,19 @@ QSize VKTreeWidget::minimumSizeHint() const {
     return {fontMetrics().averageCharWidth() * 24, fontMetrics().height() * 6};
 }
 
-bool VKTreeWidget::takesFilesOf(const QDropEvent& event) const {
+bool VKTreeWidget::takesFilesOf(const QMimeData* offered) const {
     return isSignalConnected(QMetaMethod::fromSignal(&VKTreeWidget::dataDroppped)) &&
-           !localFiles(event.mimeData()).isEmpty();
+           !localFiles(offered).isEmpty();
 }
 
 void VKTreeWidget::dragEnterEvent(QDragEnterEvent* event) {
-    event->setAccepted(takesFilesOf(*event));
+    event->setAccepted(takesFilesOf(event->mimeData()));
     emit dragEnterCalled(event);
     setHovered(event->isAccepted());
 }
 
 void VKTreeWidget::dragMoveEvent(QDragMoveEvent* event) {
-    event->setAccepted(takesFilesOf(*event));
+    event->setAccepted(takesFilesOf(event->mimeData()));
     emit dragMoveCalled(event);
     setHovered(event->isAccepted());
 }
@@ -69,11 +73,39 @@ void VKTreeWidget::dropEvent(QDropEvent* event) {
     setHovered(false);
     event->acceptProposedAction();
     emit dropCalled(event);
-    if (takesFilesOf(*event))
+    if (takesFilesOf(event->mimeData()))
         emit dataDroppped(localFiles(event->mimeData()));
 }
 
+void VKTreeWidget::connectNotify(const QMetaMethod& signal) {
+    QTreeWidget::connectNotify(signal);
+    if (m_fileButton != nullptr || signal != QMetaMethod::fromSignal(&VKTreeWidget::dataDroppped))
+        return;
+    m_fileButton = new TFileButton(this);
+    connect(m_fileButton, &TFileButton::chosen, this, &VKTreeWidget::dataDroppped);
+    updateGeometries();
+    m_fileButton->show();
+}
+
+void VKTreeWidget::updateGeometries() {
+    QTreeWidget::updateGeometries();
+    if (m_fileButton == nullptr)
+        return;
+    const QRect room = header()->geometry();
+    const QSize size = m_fileButton->sizeHint().boundedTo(room.size());
+    m_fileButton->setGeometry(
+        QStyle::alignedRect(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter, size, room));
+}
+
+void VKTreeWidget::pasteFiles() {
+    const QMimeData* const copied = QGuiApplication::clipboard()->mimeData();
+    if (takesFilesOf(copied))
+        emit dataDroppped(localFiles(copied));
+}
+
 void VKTreeWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste))
+        return pasteFiles();
     QTreeWidgetItem* item = currentItem();
     if (item == nullptr || event->modifiers() != Qt::NoModifier || item->childCount() > 0)
         return QTreeWidget::keyPressEvent(event);

@@ -2,15 +2,18 @@
 
 #include <QTreeWidget>
 
+class TFileButton;
+
 // A tree that takes drops and says, while it is empty, what may be dropped on it.
 //
 // Files: a drag that brings local files is accepted when somebody listens to dataDroppped; dropping it
-// reports their paths, in order. Anything else is for the listeners of the three ...Called signals, which
-// get each event after the tree has judged it as above, and may accept or ignore it. A drop arrives
-// accepted, since only an accepted drag can be dropped.
+// reports their paths, in order. So do a button at the end of the header, which asks for files, and pasting
+// files that were copied in a file manager. Anything else is for the listeners of the three ...Called
+// signals, which get each event after the tree has judged it as above, and may accept or ignore it. A drop
+// arrives accepted, since only an accepted drag can be dropped.
 //
-// Keyboard: Left and Right walk along the columns of an item without children; Enter or Space stands for a
-// click on the current cell.
+// Keyboard: Tab reaches the button behind the rows; Left and Right walk along the columns of an item without
+// children; Enter or Space stands for a click on the current cell.
 class VKTreeWidget : public QTreeWidget {
     Q_OBJECT
 
@@ -37,11 +40,15 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void updateGeometries() override;
+    void connectNotify(const QMetaMethod& signal) override;
 
 private:
-    bool takesFilesOf(const QDropEvent& event) const;
+    bool takesFilesOf(const QMimeData* offered) const;
+    void pasteFiles();
     void setHovered(bool hovered);
 
+    TFileButton* m_fileButton = nullptr; // as soon as somebody listens for files
     QString m_dropText;
     bool m_hovered = false;
 };

@@ -1,10 +1,18 @@
+#include "TFileButton.h"
 #include "VKTreeWidget.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QClipboard>
+#include <QDialogButtonBox>
 #include <QDropEvent>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
 #include <gtest/gtest.h>
@@ -53,6 +61,35 @@ TEST(TreeWidget, dropped_files_arrive_as_local_paths_in_order) {
     EXPECT_TRUE(drag.drops());
     ASSERT_EQ(dropped.count(), 1);
     EXPECT_EQ(dropped.at(0).at(0).toStringList(), QStringList({"/data/second run é.S00", "/data/a#1.R00"}));
+}
+
+TEST(TreeWidget, files_can_be_chosen_and_pasted_where_they_can_be_dropped) {
+    VKTreeWidget tree;
+    tree.resize(400, 120);
+    QMimeData* const copied = new QMimeData;
+    copied->setUrls({QUrl::fromLocalFile("/data/a.S00"), QUrl("https://example.org/x.S00")});
+    QGuiApplication::clipboard()->setMimeData(copied);
+    EXPECT_EQ(tree.findChild<TFileButton*>(), nullptr) << "nobody wants files yet";
+
+    QSignalSpy dropped(&tree, &VKTreeWidget::dataDroppped);
+    QTest::keyClick(&tree, Qt::Key_V, Qt::ControlModifier);
+    auto* const button = tree.findChild<TFileButton*>();
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(tree.header()->geometry().contains(button->geometry()));
+    QTimer::singleShot(0, [] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QLineEdit*>()->setText(
+            QFileInfo(QCoreApplication::applicationFilePath()).filePath());
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->click();
+    });
+    button->click();
+    ASSERT_EQ(dropped.count(), 2);
+    EXPECT_EQ(dropped.at(0).at(0).toStringList(), QStringList("/data/a.S00"));
+    EXPECT_EQ(dropped.at(1).at(0).toStringList(), QStringList(QCoreApplication::applicationFilePath()));
+    QGuiApplication::clipboard()->setText("/data/a.S00");
+    QTest::keyClick(&tree, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(dropped.count(), 2) << "a text is no file";
 }
 
 TEST(TreeWidget, other_data_is_up_to_the_listeners) {

@@ -1,0 +1,49 @@
+#include "TFileButton.h"
+
+#include "TLineIcon.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+#include <QSettings>
+
+namespace {
+
+QString folderKey() {
+    return QStringLiteral("gui/filesFolder");
+}
+
+} // namespace
+
+TFileButton::TFileButton(QWidget* parent) : QToolButton(parent) {
+    setAutoRaise(true);
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setIcon(TLineIcon::icon("project_open"));
+    retranslate();
+    connect(this, &QToolButton::clicked, this, &TFileButton::ask);
+}
+
+void TFileButton::ask() {
+    const QPointer<TFileButton> alive(this); // the dialog runs an event loop
+    const QString folder = QSettings().value(folderKey(), QDir::homePath()).toString();
+    const QStringList paths =
+        QFileDialog::getOpenFileNames(window(), tr("Choose files", "Choisir des fichiers"), folder);
+    if (paths.isEmpty() || alive.isNull()) {
+        return;
+    }
+    QSettings().setValue(folderKey(), QFileInfo(paths.first()).absolutePath());
+    emit chosen(paths);
+}
+
+void TFileButton::retranslate() {
+    setText(tr("Choose files…", "Choisir des fichiers…"));
+}
+
+void TFileButton::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QToolButton::changeEvent(event);
+}
