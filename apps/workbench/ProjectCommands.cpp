@@ -88,8 +88,12 @@ QString ProjectCommands::fileFilter() const {
 
 QString ProjectCommands::folder() const {
     const TechDB::TDatabase* const project = m_projects.projectDatabase();
-    return project == nullptr ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                              : QFileInfo(project->path()).absolutePath();
+    if (project != nullptr && project->path() != examplePath()) {
+        return QFileInfo(project->path()).absolutePath();
+    }
+    // The example lies where nobody looks for files.
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo::exists(documents) ? documents : QDir::homePath();
 }
 
 void ProjectCommands::openAtStart() {
@@ -146,7 +150,7 @@ void ProjectCommands::askForBackup() {
     const TechDB::TDatabase* const project = m_projects.projectDatabase();
     const QFileInfo file(project->path());
     const QString proposed = QStringLiteral("%1/%2 %3.%4")
-                                 .arg(file.absolutePath(), file.completeBaseName(),
+                                 .arg(folder(), file.completeBaseName(),
                                       QDate::currentDate().toString(Qt::ISODate), ProjectMgr::fileSuffix());
     const QString path = QFileDialog::getSaveFileName(&m_window, tr("Backup copy", "Copie de sauvegarde"),
                                                       proposed, fileFilter());

@@ -127,6 +127,16 @@ QSize TavrelStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
     }
 }
 
+QRect TavrelStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                  const QWidget* widget) const {
+    QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_HeaderLabel) { // in a row of usual height the margin would cut the text
+        rect.setTop(option->rect.top());
+        rect.setBottom(option->rect.bottom());
+    }
+    return rect;
+}
+
 QRect TavrelStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                                   const QWidget* widget) const {
     const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);

@@ -28,6 +28,8 @@ public:
                   QStyleHintReturn* data) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget) const override;
     // The sign for what has no room in a tool bar is drawn as all icons are. Qt would make it anew from

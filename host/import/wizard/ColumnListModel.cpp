@@ -167,15 +167,16 @@ QString ColumnListModel::contentText(int row) const {
         return tr("empty", "vide");
     }
     if (isIdentifier(row)) {
-        return tr("%1 names", "%1 noms").arg(content.filled());
+        return content.filled() == 1 ? tr("1 name", "1 nom")
+                                     : tr("%1 names", "%1 noms").arg(content.filled());
     }
     QStringList parts;
     if (numbers > 0) {
-        parts += tr("%1 numbers", "%1 nombres").arg(numbers);
+        parts += numbers == 1 ? tr("1 number", "1 nombre") : tr("%1 numbers", "%1 nombres").arg(numbers);
     }
     if (texts > 0) {
         const QString examples = content.examples.join(QStringLiteral(", "));
-        const QString count = tr("%1 texts", "%1 textes").arg(texts);
+        const QString count = texts == 1 ? tr("1 text", "1 texte") : tr("%1 texts", "%1 textes").arg(texts);
         parts += examples.isEmpty() ? count : QStringLiteral("%1 (%2)").arg(count, examples);
     }
     return parts.join(QStringLiteral(", "));

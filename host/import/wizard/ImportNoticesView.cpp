@@ -50,5 +50,7 @@ void ImportNoticesView::resizeEvent(QResizeEvent* event) {
 
 void ImportNoticesView::fitHeight() {
     const int most = mostLines * fontMetrics().lineSpacing();
-    setFixedHeight(std::min(qCeil(document()->size().height()), most));
+    const int needed = qCeil(document()->size().height());
+    setVerticalScrollBarPolicy(needed > most ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    setFixedHeight(std::min(needed, most));
 }

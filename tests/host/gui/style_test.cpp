@@ -76,6 +76,12 @@ TEST(Style, item_texts_stay_readable_on_the_items_own_background) {
     }
 }
 
+TEST(Style, a_header_as_low_as_a_row_shows_its_text_whole) {
+    QStyleOptionHeader header;
+    header.rect = QRect(0, 0, 60, 24);
+    EXPECT_EQ(TavrelStyle().subElementRect(QStyle::SE_HeaderLabel, &header, nullptr), QRect(8, 0, 44, 24));
+}
+
 TEST(Resources, the_pictures_that_modules_name_are_there) {
     for (const char* name :
          {":/Ressources/png/modules/vorn_2015/Vorn_SourceRock_QAQC.png",
