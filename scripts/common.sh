@@ -15,9 +15,9 @@ cd "$root"
 # shellcheck disable=SC2034 # used by the scripts that source this one
 build_packages=(cmake ninja-build g++ ccache rapidjson-dev libcli11-dev libssl-dev)
 # shellcheck disable=SC2034
-desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite qttools5-dev libqwt-qt5-dev libzip-dev fonts-dejavu-core)
+desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite libqt5sql5-psql qttools5-dev libqwt-qt5-dev libzip-dev fonts-dejavu-core)
 # shellcheck disable=SC2034
-test_packages=(libgtest-dev libxlsxwriter-dev)
+test_packages=(libgtest-dev libxlsxwriter-dev postgresql)
 
 say() { printf '==> %s\n' "$*"; }
 
@@ -62,14 +62,14 @@ cmake_runs() {
     return $status
 }
 
-# The driver is loaded by name when a project is opened; nothing that builds would miss it.
-sqlite_driver() {
+# sql_driver NAME: it is loaded by name when a project is opened; nothing that builds would miss it.
+sql_driver() {
     # shellcheck disable=SC2016 # the variables are CMake's
     cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Core Sql)' \
         'get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)' \
         'execute_process(COMMAND ${qmake} -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE plugins
             OUTPUT_STRIP_TRAILING_WHITESPACE)' \
-        'file(GLOB driver "${plugins}/sqldrivers/*qsqlite*")' \
+        "file(GLOB driver \"\${plugins}/sqldrivers/*$1*\")" \
         'if(NOT driver)' 'message(FATAL_ERROR "no driver")' 'endif()'
 }
 
@@ -92,8 +92,10 @@ usable() {
         libxlsxwriter-dev) header xlsxwriter.h ;;
         qtbase5-dev) cmake_runs 'find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui PrintSupport Sql Test Widgets)' ;;
         libqt5svg5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Svg)' ;;
-        libqt5sql5-sqlite) sqlite_driver ;;
+        libqt5sql5-sqlite) sql_driver qsqlite ;;
+        libqt5sql5-psql) sql_driver qsqlpsql ;;
         qttools5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Core LinguistTools)' ;;
+        postgresql) scripts/with-server true ;;
         libzip-dev) cmake_runs 'find_package(LibZip REQUIRED)' ;;
         libqwt-qt5-dev) cmake_runs 'find_package(Qwt 6.1 REQUIRED)' ;;
         fonts-dejavu-core) font DejaVuSans.ttf ;;

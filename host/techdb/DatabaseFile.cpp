@@ -51,17 +51,6 @@ void setUpOfOwn(SqlConnection& connection) {
     }
 }
 
-[[noreturn]] void throwNewer(const DatabaseSchema& schema, const QString& path, int found) {
-    throw VKError(translated("The %2 <b>%1</b> was saved by a newer version of this program.",
-                             "Le %2 <b>%1</b> a été enregistré par une version plus récente de ce programme.")
-                      .arg(shown(path), nameOf(schema.kind())),
-                  translated("(Its format is %1, this version knows formats up to %2.)",
-                             "(Son format est %1, cette version connaît les formats jusqu'à %2.)")
-                      .arg(found)
-                      .arg(schema.version()),
-                  translated("Open it with that version.", "Ouvrez-le avec cette version."));
-}
-
 /// A path beside the project that is free: lab.version-1.vornproj, lab.version-1-2.vornproj, ...
 QString freeBackupPath(const QString& path, int version) {
     const QFileInfo file(path);
@@ -75,22 +64,12 @@ QString freeBackupPath(const QString& path, int version) {
     return candidate;
 }
 
-/// Another window may have brought the project forward while this one waited to write.
-void migrateInTransaction(SqlConnection& connection, const DatabaseSchema& schema) {
-    SqlTransaction transaction(connection);
-    const int version = schema.versionOf(connection);
-    if (version < schema.version()) {
-        schema.migrate(connection, version);
-    }
-    transaction.commit();
-}
-
 void migrate(SqlConnection& connection, const DatabaseSchema& schema, int version) {
     const QString path = connection.place();
     const QString backup = freeBackupPath(path, version);
     copy(connection, backup);
     try {
-        migrateInTransaction(connection, schema);
+        schema.bringForward(connection);
     } catch (const VKError& error) {
         throw VKError(
             translated("The %2 <b>%1</b> could not be brought to the present format and is as it was.",
@@ -193,10 +172,7 @@ std::unique_ptr<SqlConnection> create(const QString& path, const DatabaseSchema&
 std::unique_ptr<SqlConnection> open(const QString& path, const DatabaseSchema& schema) {
     checkPlace(schema.kind(), path);
     std::unique_ptr<SqlConnection> connection = connected(schema.kind(), path);
-    const int version = schema.versionOf(*connection);
-    if (version > schema.version()) {
-        throwNewer(schema, path, version);
-    }
+    const int version = schema.knownVersionOf(*connection);
     setUpOfOwn(*connection);
     if (version < schema.version()) {
         migrate(*connection, schema, version);

@@ -2,7 +2,9 @@
 
 #include "SqlConnection.h"
 #include "SqlError.h"
+#include "SqlTransaction.h"
 
+#include <QCoreApplication>
 #include <QSqlError>
 #include <QUuid>
 
@@ -12,8 +14,23 @@ namespace TechDB {
 
 namespace {
 
+QString translated(const char* english, const char* french) {
+    return QCoreApplication::translate("TechDB::DatabaseSchema", english, french);
+}
+
 [[noreturn]] void failAsForeign(const SqlConnection& connection) {
-    throw SqlError(SqlFailure::NotADatabase, QSqlError(), connection.kind(), connection.place());
+    throw SqlError(SqlFailure::NotADatabase, QSqlError(), connection.kind(), connection.shown());
+}
+
+[[noreturn]] void failAsNewer(const SqlConnection& connection, int found, int known) {
+    throw VKError(translated("The %2 <b>%1</b> was saved by a newer version of this program.",
+                             "Le %2 <b>%1</b> a été enregistré par une version plus récente de ce programme.")
+                      .arg(connection.shown().toHtmlEscaped(), nameOf(connection.kind())),
+                  translated("(Its format is %1, this version knows formats up to %2.)",
+                             "(Son format est %1, cette version connaît les formats jusqu'à %2.)")
+                      .arg(found)
+                      .arg(known),
+                  translated("Open it with that version.", "Ouvrez-le avec cette version."));
 }
 
 } // namespace
@@ -62,6 +79,14 @@ int DatabaseSchema::versionOf(SqlConnection& connection) const {
     return stored;
 }
 
+int DatabaseSchema::knownVersionOf(SqlConnection& connection) const {
+    const int stored = versionOf(connection);
+    if (stored > version()) {
+        failAsNewer(connection, stored, version());
+    }
+    return stored;
+}
+
 QString DatabaseSchema::idOf(SqlConnection& connection) const {
     QString id;
     connection.select(QStringLiteral("SELECT id FROM %1 WHERE only_row = 1").arg(identity()), {},
@@ -70,6 +95,16 @@ QString DatabaseSchema::idOf(SqlConnection& connection) const {
         failAsForeign(connection);
     }
     return id;
+}
+
+// Another window may have brought it forward while this one waited to write.
+void DatabaseSchema::bringForward(SqlConnection& connection) const {
+    SqlTransaction transaction(connection);
+    const int stored = versionOf(connection);
+    if (stored < version()) {
+        migrate(connection, stored);
+    }
+    transaction.commit();
 }
 
 void DatabaseSchema::migrate(SqlConnection& connection, int from) const {

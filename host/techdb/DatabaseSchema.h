@@ -27,17 +27,20 @@ public:
 
     /// The version that a database says it has. Throws VKError if it isn't one of this kind.
     int versionOf(SqlConnection& connection) const;
+    /// The same; also throws for a version that is newer than this one.
+    int knownVersionOf(SqlConnection& connection) const;
     /// The identity (a UUID) that a database was created with.
     QString idOf(SqlConnection& connection) const;
 
-    /// Leads a database from the older version given to this one. To be called within a transaction.
-    void migrate(SqlConnection& connection, int from) const;
+    /// Leads a database from whatever older version it has to this one, in one transaction.
+    void bringForward(SqlConnection& connection) const;
 
     /// Throws if a table or a column is not there.
     void probe(SqlConnection& connection) const;
 
 private:
     QString identity() const;
+    void migrate(SqlConnection& connection, int from) const;
 
     DatabaseKind m_kind;
     QStringList m_creation;

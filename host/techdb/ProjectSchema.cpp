@@ -10,7 +10,7 @@ QStringList firstVersion() {
     return {
         QStringLiteral("CREATE TABLE analyses ("
                        " id {identity},"
-                       " name TEXT NOT NULL UNIQUE,"
+                       " name TEXT {bytewise} NOT NULL UNIQUE,"
                        " analysis_type TEXT NOT NULL,"
                        " created TEXT NOT NULL,"
                        " point_count INTEGER NOT NULL CHECK (point_count >= 2))"),

@@ -2,6 +2,7 @@
 
 #include "SqlError.h"
 
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QUuid>
 
@@ -27,38 +28,110 @@ private:
 
 SqlConnection::SqlConnection(DatabaseKind kind, const QString& place, std::unique_ptr<SqlDialect> dialect)
     : m_kind(kind), m_place(place), m_dialect(std::move(dialect)),
-      m_name(QStringLiteral("techdb-") + QUuid::createUuid().toString(QUuid::WithoutBraces)),
-      m_database(QSqlDatabase::addDatabase(m_dialect->driver(), m_name)) {
-    m_dialect->aim(m_database, m_place);
+      m_name(QStringLiteral("techdb-") + QUuid::createUuid().toString(QUuid::WithoutBraces)) {
     try {
-        if (!m_database.open()) {
-            fail(m_database.lastError());
-        }
-        const QStringList statements = m_dialect->setUp();
-        for (const QString& statement : statements) {
-            run(statement);
-        }
+        open();
     } catch (...) {
-        m_database = QSqlDatabase();
-        QSqlDatabase::removeDatabase(m_name);
+        close();
         throw;
     }
 }
 
 SqlConnection::~SqlConnection() {
-    m_statements.clear();
-    m_database.close();
+    close();
+}
+
+void SqlConnection::open() {
+    m_database = QSqlDatabase::addDatabase(m_dialect->driver(), m_name);
+    m_dialect->aim(m_database, m_place);
+    if (!m_database.open()) {
+        fail(m_database.lastError());
+    }
+    m_isCut = false;
+    const QStringList statements = m_dialect->setUp();
+    for (const QString& statement : statements) {
+        runOnce(statement, {});
+    }
+    subscribe();
+}
+
+void SqlConnection::close() {
+    if (!m_isCut) {
+        m_statements.clear(); // each tells the other end, which must still be there
+        m_database.close();
+    }
     m_database = QSqlDatabase();
     QSqlDatabase::removeDatabase(m_name);
+    m_statements.clear();
+}
+
+void SqlConnection::reopenIfCut() {
+    m_isCut = m_isCut || !m_database.isOpen(); // the driver closes one that it finds cut while it listens
+    if (!m_isCut) {
+        return;
+    }
+    if (inTransaction()) {
+        fail(QSqlError());
+    }
+    close();
+    try {
+        open();
+    } catch (...) {
+        m_isCut = true;
+        throw;
+    }
+    if (m_heard) {
+        m_heard();
+    }
+}
+
+void SqlConnection::listen(const std::function<void()>& heard) {
+    m_heard = heard;
+    subscribe();
+}
+
+void SqlConnection::subscribe() {
+    const QString channel = m_dialect->channel();
+    QSqlDriver* const driver = m_database.driver();
+    if (!m_heard || channel.isEmpty() || driver->subscribedToNotifications().contains(channel)) {
+        return;
+    }
+    if (!driver->subscribeToNotification(channel)) {
+        fail(driver->lastError());
+    }
+    const auto signal =
+        qOverload<const QString&, QSqlDriver::NotificationSource, const QVariant&>(&QSqlDriver::notification);
+    QObject::connect(driver, signal, driver, [this](const QString&, QSqlDriver::NotificationSource source) {
+        if (source == QSqlDriver::OtherSource) {
+            m_heard();
+        }
+    });
+}
+
+QSqlQuery SqlConnection::query() const {
+    QSqlQuery query(m_database);
+    query.setForwardOnly(m_dialect->streamsRows());
+    return query;
 }
 
 void SqlConnection::run(const QString& statement, const Values& values) {
-    QSqlQuery query(m_database);
-    query.setForwardOnly(true);
-    if (!query.prepare(m_dialect->adapted(statement))) {
-        fail(query.lastError());
+    reopenIfCut();
+    runOnce(statement, values);
+}
+
+void SqlConnection::runOnce(const QString& statement, const Values& values) {
+    QSqlQuery once = query();
+    const QString text = m_dialect->adapted(statement);
+    if (values.isEmpty()) {
+        if (!once.exec(text)) {
+            fail(once.lastError());
+        }
+        return;
     }
-    start(query, values);
+    if (!once.prepare(text)) {
+        fail(once.lastError());
+    }
+    start(once, values);
 }
 
 int SqlConnection::execute(const QString& statement, const Values& values) {
@@ -93,19 +166,19 @@ QVariant SqlConnection::text(const QString& value) {
 }
 
 QSqlQuery& SqlConnection::prepared(const QString& statement) {
+    reopenIfCut();
     const auto known = m_statements.find(statement);
     if (known != m_statements.end()) {
         return *known;
     }
-    QSqlQuery query(m_database);
-    query.setForwardOnly(true);
-    if (!query.prepare(m_dialect->adapted(statement))) {
-        fail(query.lastError());
+    QSqlQuery fresh = query();
+    if (!fresh.prepare(m_dialect->adapted(statement))) {
+        fail(fresh.lastError());
     }
-    return *m_statements.insert(statement, query);
+    return *m_statements.insert(statement, fresh);
 }
 
-void SqlConnection::start(QSqlQuery& query, const Values& values) const {
+void SqlConnection::start(QSqlQuery& query, const Values& values) {
     for (int i = 0; i < values.size(); ++i) {
         query.bindValue(i, values.at(i));
     }
@@ -114,8 +187,10 @@ void SqlConnection::start(QSqlQuery& query, const Values& values) const {
     }
 }
 
-void SqlConnection::fail(const QSqlError& error) const {
-    throw SqlError(m_dialect->failureOf(error), error, m_kind, m_place);
+void SqlConnection::fail(const QSqlError& error) {
+    const SqlFailure failure = m_isCut && inTransaction() ? SqlFailure::Cut : m_dialect->failureOf(error);
+    m_isCut = m_isCut || failure == SqlFailure::Cut;
+    throw SqlError(failure, error, m_kind, shown());
 }
 
 } // namespace TechDB

@@ -1,5 +1,7 @@
 #include "SqlError.h"
 
+#include "ServerAddress.h"
+
 #include <QCoreApplication>
 #include <QSqlError>
 
@@ -33,6 +35,12 @@ QString whatHappened(SqlFailure failure) {
     case SqlFailure::NameTaken:
         return translated("The %2 <b>%1</b> holds that name already.",
                           "Le %2 <b>%1</b> contient déjà ce nom.");
+    case SqlFailure::Cut:
+        return translated(
+            "The connection to the %2 <b>%1</b> was cut; nothing of what was being written is in "
+            "it.",
+            "La connexion au %2 <b>%1</b> a été coupée ; rien de ce qui était en cours d'écriture "
+            "n'y est.");
     case SqlFailure::Other:
         break;
     }
@@ -62,12 +70,67 @@ QString whatToDo(SqlFailure failure, DatabaseKind kind) {
             .arg(nameOf(kind));
     case SqlFailure::NameTaken:
         return translated("Choose another name.", "Choisissez un autre nom.");
+    case SqlFailure::Cut:
+        return translated("Check the network and the server, then try again: the connection is made anew.",
+                          "Vérifiez le réseau et le serveur, puis essayez à nouveau : la connexion sera "
+                          "rétablie.");
     case SqlFailure::Damaged:
     case SqlFailure::Other:
         break;
     }
     return translated("If this happens again, go back to a backup copy.",
                       "Si cela se reproduit, revenez à une copie de sauvegarde.");
+}
+
+/// What is said otherwise of a project on a server; empty for the rest.
+QString happenedOnServer(SqlFailure failure) {
+    switch (failure) {
+    case SqlFailure::NotADatabase:
+        return translated("The database <b>%1</b> holds no %2.",
+                          "La base de données <b>%1</b> ne contient pas de %2.");
+    case SqlFailure::ReadOnly:
+        return translated("You may read the %2 <b>%1</b>, but not change it.",
+                          "Vous pouvez lire le %2 <b>%1</b>, mais pas le modifier.");
+    default:
+        return {};
+    }
+}
+
+QString adviceForServer(SqlFailure failure) {
+    switch (failure) {
+    case SqlFailure::CannotOpen:
+        return translated(
+            "Check the address, the network and your rights. A password belongs into the password "
+            "file of the server's client, which asks for none.",
+            "Vérifiez l'adresse, le réseau et vos droits. Un mot de passe a sa place dans le "
+            "fichier de mots de passe du client du serveur, qui n'en demande pas.");
+    case SqlFailure::ReadOnly:
+        return translated("Ask who keeps the server for the right to write.",
+                          "Demandez le droit d'écrire à qui gère le serveur.");
+    case SqlFailure::NotADatabase:
+        return translated("Check the name of the database, or make a new project there.",
+                          "Vérifiez le nom de la base, ou créez-y un nouveau projet.");
+    case SqlFailure::Full:
+    case SqlFailure::Disk:
+    case SqlFailure::Damaged:
+        return translated("Tell who keeps the server.", "Prévenez qui gère le serveur.");
+    default:
+        return {};
+    }
+}
+
+QString firstOf(const QString& wanted, const QString& otherwise) {
+    return wanted.isEmpty() ? otherwise : wanted;
+}
+
+QString messageOf(SqlFailure failure, DatabaseKind kind, const QString& place) {
+    const QString special = ServerAddress::isAddress(place) ? happenedOnServer(failure) : QString();
+    return firstOf(special, whatHappened(failure)).arg(place.toHtmlEscaped(), nameOf(kind));
+}
+
+QString adviceOf(SqlFailure failure, DatabaseKind kind, const QString& place) {
+    const QString special = ServerAddress::isAddress(place) ? adviceForServer(failure) : QString();
+    return firstOf(special, whatToDo(failure, kind));
 }
 
 QString whereItHappened(const QSqlError& cause) {
@@ -78,8 +141,7 @@ QString whereItHappened(const QSqlError& cause) {
 } // namespace
 
 SqlError::SqlError(SqlFailure failure, const QSqlError& cause, DatabaseKind kind, const QString& place)
-    : VKError(whatHappened(failure).arg(place.toHtmlEscaped(), nameOf(kind)), whereItHappened(cause),
-              whatToDo(failure, kind)),
+    : VKError(messageOf(failure, kind, place), whereItHappened(cause), adviceOf(failure, kind, place)),
       m_failure(failure) {}
 
 SqlError::~SqlError() = default;

@@ -20,6 +20,7 @@ public:
     void commit();
 
 private:
+    void begin();
     void checkNotGivenUp() const;
     void rollBack() noexcept;
 

@@ -11,6 +11,14 @@ QString SqliteDialect::driver() const {
     return QStringLiteral("QSQLITE");
 }
 
+QString SqliteDialect::shown(const QString& place) const {
+    return place;
+}
+
+bool SqliteDialect::streamsRows() const {
+    return true;
+}
+
 void SqliteDialect::aim(QSqlDatabase& connection, const QString& place) const {
     // Only an address can say that a missing file must not be created.
     const QUrl file = QUrl::fromLocalFile(QFileInfo(place).absoluteFilePath());
@@ -37,12 +45,25 @@ QString SqliteDialect::adapted(const QString& statement) const {
     text.replace(QLatin1String("{identity}"), QLatin1String("INTEGER PRIMARY KEY AUTOINCREMENT"));
     text.replace(QLatin1String("{double}"), QLatin1String("DOUBLE PRECISION"));
     text.replace(QLatin1String("{blob}"), QLatin1String("BLOB"));
+    text.remove(QLatin1String(" {bytewise}"));
     text.replace(QLatin1String("{clustered}"), QLatin1String("WITHOUT ROWID"));
     return text;
 }
 
-QString SqliteDialect::beginWriting() const {
-    return QStringLiteral("BEGIN IMMEDIATE");
+QStringList SqliteDialect::beginWriting() const {
+    return {QStringLiteral("BEGIN IMMEDIATE")};
+}
+
+QStringList SqliteDialect::beforeCommit() const {
+    return {};
+}
+
+QString SqliteDialect::channel() const {
+    return {};
+}
+
+QString SqliteDialect::commitCounter() const {
+    return QStringLiteral("PRAGMA data_version");
 }
 
 QString SqliteDialect::copyToFile() const {

@@ -9,12 +9,17 @@ namespace TechDB {
 class SqliteDialect : public SqlDialect {
 public:
     QString driver() const override;
+    QString shown(const QString& place) const override;
+    bool streamsRows() const override;
     void aim(QSqlDatabase& connection, const QString& place) const override;
     QStringList setUp() const override;
     QStringList setUpOfOwn() const override;
     QStringList setUpOfReplaceable() const override;
     QString adapted(const QString& statement) const override;
-    QString beginWriting() const override;
+    QStringList beginWriting() const override;
+    QStringList beforeCommit() const override;
+    QString channel() const override;
+    QString commitCounter() const override;
     QString copyToFile() const override;
     QString checkWhole() const override;
     QString checkReferences() const override;

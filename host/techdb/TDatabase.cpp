@@ -3,17 +3,21 @@
 #include "AnalysisStore.h"
 #include "DatabaseFile.h"
 #include "DatabaseRegistry.h"
+#include "DatabaseServer.h"
 #include "DatasetStore.h"
+#include "ForeignCommits.h"
 #include "MessageLoggerInterface.h"
 #include "NumberedName.h"
 #include "ObjectPool.h"
 #include "ReadAhead.h"
 #include "SampleStore.h"
+#include "ServerAddress.h"
 #include "SqlConnection.h"
 #include "Transaction.h"
 #include "VKError.h"
 #include "VKObject2Analysis.h"
 
+#include <QFileInfo>
 #include <QHash>
 
 #include <utility>
@@ -27,12 +31,17 @@ constexpr int manyKeys = 32;
 
 } // namespace
 
-std::unique_ptr<TDatabase> TDatabase::create(const QString& path) {
-    return std::unique_ptr<TDatabase>(new TDatabase(DatabaseFile::create(path, ProjectSchema::current())));
+std::unique_ptr<TDatabase> TDatabase::create(const QString& place) {
+    const ProjectSchema& schema = ProjectSchema::current();
+    return std::unique_ptr<TDatabase>(new TDatabase(ServerAddress::isAddress(place)
+                                                        ? DatabaseServer::create(place, schema)
+                                                        : DatabaseFile::create(place, schema)));
 }
 
-std::unique_ptr<TDatabase> TDatabase::open(const QString& path, const ProjectSchema& schema) {
-    return std::unique_ptr<TDatabase>(new TDatabase(DatabaseFile::open(path, schema)));
+std::unique_ptr<TDatabase> TDatabase::open(const QString& place, const ProjectSchema& schema) {
+    return std::unique_ptr<TDatabase>(new TDatabase(ServerAddress::isAddress(place)
+                                                        ? DatabaseServer::open(place, schema)
+                                                        : DatabaseFile::open(place, schema)));
 }
 
 TDatabase::TDatabase(std::unique_ptr<SqlConnection> connection)
@@ -46,8 +55,19 @@ TDatabase::~TDatabase() {
     DatabaseRegistry::remove(this);
 }
 
-const QString& TDatabase::path() const {
-    return m_connection->place();
+QString TDatabase::path() const {
+    return m_connection->shown();
+}
+
+QString TDatabase::title() const {
+    const QString& place = m_connection->place();
+    return ServerAddress::isAddress(place) ? ServerAddress(place).title()
+                                           : QFileInfo(place).completeBaseName();
+}
+
+QString TDatabase::folder() const {
+    const QString& place = m_connection->place();
+    return ServerAddress::isAddress(place) ? QString() : QFileInfo(place).absolutePath();
 }
 
 QVector<AnalysisInfo> TDatabase::analyses() const {
@@ -255,6 +275,11 @@ void TDatabase::addColumns(qint64 sample, const SampleTable& table) {
 
 SampleTable TDatabase::sampleTable(qint64 sample) const {
     return SampleStore(*m_connection).table(sample);
+}
+
+void TDatabase::followOthers() {
+    m_others = std::make_unique<ForeignCommits>(*m_connection);
+    connect(m_others.get(), &ForeignCommits::happened, this, &TDatabase::changedElsewhere);
 }
 
 void TDatabase::backupTo(const QString& path) const {

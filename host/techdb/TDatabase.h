@@ -18,6 +18,7 @@ class VKObject2Well;
 
 namespace TechDB {
 
+class ForeignCommits;
 class ObjectPool;
 class ReadAhead;
 class SqlConnection;
@@ -33,16 +34,22 @@ class TDatabase : public QObject {
     Q_OBJECT
 
 public:
-    /// Makes a new project at a path where nothing lies.
-    static std::unique_ptr<TDatabase> create(const QString& path);
-    /// Opens a project. One of an older version is brought to the present one, after a copy of it was
-    /// written beside it; one of a newer version is refused.
-    static std::unique_ptr<TDatabase> open(const QString& path,
+    /// Makes a new project: at a path where nothing lies (`DatabaseFile`), or in a database on a server that
+    /// holds none yet (`DatabaseServer`).
+    static std::unique_ptr<TDatabase> create(const QString& place);
+    /// Opens a project, a file or one on a server. One of an older version is brought to the present one,
+    /// a file after a copy of it was written beside it; one of a newer version is refused.
+    static std::unique_ptr<TDatabase> open(const QString& place,
                                            const ProjectSchema& schema = ProjectSchema::current());
     /// Closes the project. No transaction may be open.
     ~TDatabase() override;
 
-    const QString& path() const;
+    /// The file's path, or the address on a server, without a password.
+    QString path() const;
+    /// What a person calls the project: the name of its file or of its database on a server.
+    QString title() const;
+    /// The folder that a project's file lies in; null for a project on a server.
+    QString folder() const;
     /// Made with the project and copied with its file.
     const QString& projectId() const { return m_projectId; }
 
@@ -96,6 +103,9 @@ public:
     void addColumns(qint64 sample, const SampleTable& table);
     SampleTable sampleTable(qint64 sample) const;
 
+    /// From now on `changedElsewhere` is emitted.
+    void followOthers();
+
     /// Writes a whole, checked copy; what lies under the path is replaced once the copy is complete.
     void backupTo(const QString& path) const;
     /// Reads all of the file and tells, one sentence each, what is wrong with it. Empty if nothing is.
@@ -104,6 +114,8 @@ public:
 signals:
     /// What this object has changed in the project, after it was committed, in one go for a transaction.
     void changed(const TechDB::ObjectChanges& changes);
+    /// Somebody else has changed something, within two seconds after it was committed.
+    void changedElsewhere();
 
 protected:
     explicit TDatabase(std::unique_ptr<SqlConnection> connection);
@@ -134,6 +146,7 @@ private:
 
     std::unique_ptr<SqlConnection> m_connection;
     std::unique_ptr<ObjectPool> m_objects;
+    std::unique_ptr<ForeignCommits> m_others;
     std::unique_ptr<TAnalysisData> m_lastCurve;
     ReadAhead* m_readAhead = nullptr;
     QString m_projectId;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ServerDatabase.h"
 #include "TDatabase.h"
 #include "VKError.h"
 #include "VKObject2Signal.h"
@@ -14,16 +15,21 @@
 
 #include <gtest/gtest.h>
 
-/// A project file in a folder of its own, and what is done to it behind the library's back.
+#include <memory>
+
+/// A project, a file in a folder of its own or on the tests' server if there is one, and what is done to it
+/// behind the library's back.
 class ProjectTest : public testing::Test {
 protected:
-    ProjectTest() { database = TechDB::TDatabase::create(path()); }
+    ProjectTest() { database = TechDB::TDatabase::create(place()); }
+
+    QString place() const { return server ? server->address() : path(); }
 
     QString path(const QString& file = QStringLiteral("lab.vornproj")) const { return folder.filePath(file); }
     QStringList filesInFolder() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
     void reopen() {
         database.reset();
-        database = TechDB::TDatabase::open(path());
+        database = TechDB::TDatabase::open(place());
     }
 
     static QByteArray bytesOf(const QString& file) {
@@ -38,6 +44,16 @@ protected:
 
     /// Runs statements through a connection without foreign keys, as another program would, and gives the
     /// first column of the last one's first row.
+    QVariant sql(const QStringList& statements) const {
+        QVariant result;
+        if (!server) {
+            return sql(path(), statements);
+        }
+        for (const QString& statement : statements) {
+            result = ServerDatabase::run(place(), statement);
+        }
+        return result;
+    }
     static QVariant sql(const QString& file, const QStringList& statements) {
         QVariant result;
         {
@@ -83,6 +99,8 @@ protected:
     }
 
     QTemporaryDir folder;
+    std::unique_ptr<ServerDatabase> server =
+        ServerDatabase::isThere() ? std::make_unique<ServerDatabase>() : nullptr;
     std::unique_ptr<TechDB::TDatabase> database;
 };
 

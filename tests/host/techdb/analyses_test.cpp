@@ -48,10 +48,11 @@ TEST_F(Analyses, a_curve_comes_back_bit_for_bit_after_reopening) {
 
 TEST_F(Analyses, a_curve_is_stored_as_abscissae_then_ordinates_lowest_byte_first) {
     database->addAnalysis("A", {}, {{0.0F, 1.0F}, {-2.0F, 0.5F}});
-    EXPECT_EQ(sql(path(), {"SELECT lower(hex(points)) FROM curves"}).toString(), "00000000"
-                                                                                 "0000803f"
-                                                                                 "000000c0"
-                                                                                 "0000003f");
+    const QString digits = server ? "encode(points, 'hex')" : "lower(hex(points))";
+    EXPECT_EQ(sql({"SELECT " + digits + " FROM curves"}).toString(), "00000000"
+                                                                     "0000803f"
+                                                                     "000000c0"
+                                                                     "0000003f");
 }
 
 TEST_F(Analyses, curves_that_no_module_could_use_are_refused_with_the_cause) {
@@ -115,7 +116,7 @@ TEST_F(Analyses, a_removed_analysis_takes_its_curve_along_and_its_object_stays_u
     const VKObject2Analysis* gone = database->addAnalysis("gone", {}, ramp());
     const qint64 key = gone->key();
     database->removeAnalysis(key);
-    EXPECT_EQ(sql(path(), {"SELECT count(*) FROM curves"}).toInt(), 0);
+    EXPECT_EQ(sql({"SELECT count(*) FROM curves"}).toInt(), 0);
     EXPECT_EQ(gone->name(), "gone");
     EXPECT_NE(database->addAnalysis("next", {}, ramp())->key(), key) << "keys never come again";
 
@@ -130,6 +131,9 @@ TEST_F(Analyses, a_removed_analysis_takes_its_curve_along_and_its_object_stays_u
 }
 
 TEST_F(Analyses, stored_curves_that_lie_about_themselves_are_refused_with_an_error) {
+    if (server) {
+        GTEST_SKIP() << "the server keeps to the types of its columns";
+    }
     const QStringList tampering{"UPDATE curves SET points = substr(points, 1, 20)",       // cut off
                                 "UPDATE curves SET points = points || x'00'",             // too long
                                 "UPDATE curves SET points = x''",                         //
@@ -145,7 +149,7 @@ TEST_F(Analyses, stored_curves_that_lie_about_themselves_are_refused_with_an_err
     const QString intact = path("intact.vornproj");
     database->backupTo(intact);
     for (const QString& statement : tampering) {
-        sql(path(), {"PRAGMA ignore_check_constraints = ON", statement});
+        sql({"PRAGMA ignore_check_constraints = ON", statement});
         MessageCollector log;
         MessageLoggerInterface::setDefaultLogger(&log);
         TAnalysisData* data = nullptr;
@@ -159,7 +163,7 @@ TEST_F(Analyses, stored_curves_that_lie_about_themselves_are_refused_with_an_err
         reopen();
         analysis = database->getAnalysis("target");
     }
-    sql(path(), {"PRAGMA ignore_check_constraints = ON", "UPDATE analyses SET point_count = 0"});
+    sql({"PRAGMA ignore_check_constraints = ON", "UPDATE analyses SET point_count = 0"});
     reopen();
     EXPECT_EQ(database->getAnalysis("target")->TIC(), nullptr) << "no curve, no signal";
 }

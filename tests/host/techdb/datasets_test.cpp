@@ -56,9 +56,9 @@ TEST_F(Datasets, values_can_be_read_with_plain_sql) {
     const qint64 well = database->addWell("D")->key();
     database->addSample(well, "S", twoByTwo());
     const QString from = "FROM dataset_values WHERE dataset = 'D' AND sample = 'S' AND ";
-    EXPECT_EQ(sql(path(), {"SELECT number_value " + from + "row_name = 'Tmax'"}), QVariant(431.0));
-    EXPECT_EQ(sql(path(), {"SELECT text_value " + from + "column_name = 'é'"}), QVariant("n.d."));
-    EXPECT_EQ(sql(path(), {"SELECT count(*) FROM dataset_values"}).toInt(), 3);
+    EXPECT_EQ(sql({"SELECT number_value " + from + "row_name = 'Tmax'"}), QVariant(431.0));
+    EXPECT_EQ(sql({"SELECT text_value " + from + "column_name = 'é'"}), QVariant("n.d."));
+    EXPECT_EQ(sql({"SELECT count(*) FROM dataset_values"}).toInt(), 3);
 }
 
 TEST_F(Datasets, removing_a_dataset_leaves_nothing_of_it) {
@@ -69,9 +69,9 @@ TEST_F(Datasets, removing_a_dataset_leaves_nothing_of_it) {
     QSignalSpy changes(database.get(), &TechDB::TDatabase::changed);
     database->removeWell(well);
     EXPECT_EQ(changes.count(), 1);
-    EXPECT_EQ(sql(path(), {"SELECT (SELECT count(*) FROM samples) + (SELECT count(*) FROM sample_values)"
-                           " + (SELECT count(*) FROM sample_rows) + (SELECT count(*) FROM sample_columns)"
-                           " + (SELECT count(*) FROM sample_properties)"})
+    EXPECT_EQ(sql({"SELECT (SELECT count(*) FROM samples) + (SELECT count(*) FROM sample_values)"
+                   " + (SELECT count(*) FROM sample_rows) + (SELECT count(*) FROM sample_columns)"
+                   " + (SELECT count(*) FROM sample_properties)"})
                   .toInt(),
               0);
     database->renameWell(other, "D");
@@ -98,12 +98,12 @@ TEST_F(Datasets, names_taken_and_tables_that_do_not_fit_are_refused_whole) {
 TEST_F(Datasets, stored_tables_that_do_not_fit_together_are_refused) {
     const QStringList tampering{"UPDATE sample_values SET row_position = 2 WHERE row_position = 1",
                                 "UPDATE sample_values SET column_position = -1 WHERE column_position = 1",
-                                "UPDATE sample_rows SET position = 9223372036854775807 WHERE position = 1",
+                                "UPDATE sample_rows SET position = 2147483647 WHERE position = 1",
                                 "DELETE FROM sample_columns"};
     for (const QString& statement : tampering) {
         const qint64 well = database->addWell("D")->key();
         const qint64 sample = database->addSample(well, "S", twoByTwo());
-        sql(path(), {statement});
+        sql({statement});
         EXPECT_TRUE(says(failure([&] { database->sampleTable(sample); }), "don't fit together"))
             << qPrintable(statement);
         database->removeWell(well);

@@ -57,7 +57,7 @@ TEST_F(Drags, objects_arrive_in_order_and_are_the_same_objects) {
     EXPECT_EQ(decoded(bytes), QList<const VKObject2*>({b, a->TIC(), well, a}));
     EXPECT_EQ(decoded(bytes).at(1)->type(), VKObjectType::Signal);
 
-    const std::unique_ptr<TDatabase> later = TDatabase::open(path());
+    const std::unique_ptr<TDatabase> later = TDatabase::open(place());
     ASSERT_EQ(decoded(bytes).size(), 4);
     EXPECT_EQ(decoded(bytes).at(0)->db(), later.get());
 }

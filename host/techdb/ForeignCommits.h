@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+namespace TechDB {
+
+class SqlConnection;
+
+/// Tells when another connection, that of another window or of another desk, has committed something: at once
+/// where the database tells, otherwise within a second. Needs an event loop.
+class ForeignCommits : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ForeignCommits(SqlConnection& connection);
+
+signals:
+    void happened();
+
+private:
+    qint64 counted() const;
+    void look();
+
+    SqlConnection& m_connection;
+    qint64 m_known = 0;
+    QTimer m_timer;
+};
+
+} // namespace TechDB

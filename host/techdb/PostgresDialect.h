@@ -1,0 +1,29 @@
+#pragma once
+
+#include "SqlDialect.h"
+
+namespace TechDB {
+
+/// One database on a PostgreSQL server, whose place is a `ServerAddress`. Writers take turns, as they do on a
+/// file: who begins to write waits up to five seconds for the one before.
+class PostgresDialect : public SqlDialect {
+public:
+    QString driver() const override;
+    QString shown(const QString& place) const override;
+    bool streamsRows() const override;
+    void aim(QSqlDatabase& connection, const QString& place) const override;
+    QStringList setUp() const override;
+    QStringList setUpOfOwn() const override;
+    QStringList setUpOfReplaceable() const override;
+    QString adapted(const QString& statement) const override;
+    QStringList beginWriting() const override;
+    QStringList beforeCommit() const override;
+    QString channel() const override;
+    QString commitCounter() const override;
+    QString copyToFile() const override;
+    QString checkWhole() const override;
+    QString checkReferences() const override;
+    SqlFailure failureOf(const QSqlError& error) const override;
+};
+
+} // namespace TechDB
