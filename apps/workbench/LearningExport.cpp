@@ -34,7 +34,7 @@ private:
 QString projectFolder() {
     const ProjectMgrInterface* const projects = ProjectMgrInterface::returnMe();
     const TechDB::TDatabase* const project = projects == nullptr ? nullptr : projects->projectDatabase();
-    return project == nullptr ? QDir::currentPath() : QFileInfo(project->path()).absolutePath();
+    return project == nullptr || project->folder().isNull() ? QDir::homePath() : project->folder();
 }
 
 /// Where the engine writes: a fixed file, on Windows at a fixed place.

@@ -54,7 +54,7 @@ QAction* MainMenu::action(const QString& icon, const QKeySequence& shortcut) {
 }
 
 void MainMenu::buildMenus(const ProjectCommands& projects) {
-    m_project->addActions({projects.newAction(), projects.openAction()});
+    m_project->addActions({projects.newAction(), projects.openAction(), projects.serverAction()});
     m_project->addMenu(projects.recentMenu());
     m_project->addActions({projects.exampleAction(), projects.backupAction()});
     m_project->addSeparator();

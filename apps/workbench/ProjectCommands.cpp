@@ -4,7 +4,10 @@
 #include "MessageLoggerInterface.h"
 #include "ModuleLauncher.h"
 #include "ProjectMgr.h"
+#include "ServerAddress.h"
+#include "SqlError.h"
 #include "TDatabase.h"
+#include "TInputsDialog.h"
 #include "TLineIcon.h"
 #include "VKError.h"
 
@@ -13,7 +16,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QStandardPaths>
 
 namespace {
@@ -39,6 +44,7 @@ ProjectCommands::ProjectCommands(ProjectMgr& projects, ModuleLauncher& launcher,
     : m_projects(projects), m_launcher(launcher), m_window(window),
       m_new(new QAction(TLineIcon::icon(QStringLiteral("project_new")), {}, this)),
       m_open(new QAction(TLineIcon::icon(QStringLiteral("project_open")), {}, this)),
+      m_server(new QAction(TLineIcon::icon(QStringLiteral("link_axes")), {}, this)),
       m_example(new QAction(TLineIcon::icon(QStringLiteral("project")), {}, this)),
       m_backup(new QAction(TLineIcon::icon(QStringLiteral("backup")), {}, this)),
       m_recent(new QMenu(&window)) {
@@ -48,6 +54,7 @@ ProjectCommands::ProjectCommands(ProjectMgr& projects, ModuleLauncher& launcher,
     m_recent->setIcon(TLineIcon::icon(QStringLiteral("project_recent")));
     connect(m_new, &QAction::triggered, this, &ProjectCommands::askForNew);
     connect(m_open, &QAction::triggered, this, &ProjectCommands::askForOpen);
+    connect(m_server, &QAction::triggered, this, &ProjectCommands::askForServer);
     connect(m_example, &QAction::triggered, this, &ProjectCommands::openExample);
     connect(m_backup, &QAction::triggered, this, &ProjectCommands::askForBackup);
     connect(m_recent, &QMenu::aboutToShow, this, &ProjectCommands::fillRecentMenu);
@@ -63,6 +70,9 @@ void ProjectCommands::translate() {
     m_new->setToolTip(tr("Make an empty project", "Créer un projet vide"));
     m_open->setText(tr("Open…", "Ouvrir…"));
     m_open->setToolTip(tr("Open another project", "Ouvrir un autre projet"));
+    m_server->setText(tr("Open on a server…", "Ouvrir sur un serveur…"));
+    m_server->setToolTip(tr("Open or make a project that several desks share",
+                            "Ouvrir ou créer un projet que plusieurs postes partagent"));
     m_example->setText(tr("Example", "Exemple"));
     m_example->setToolTip(
         tr("Open the project with the example curves", "Ouvrir le projet des courbes d'exemple"));
@@ -88,10 +98,10 @@ QString ProjectCommands::fileFilter() const {
 
 QString ProjectCommands::folder() const {
     const TechDB::TDatabase* const project = m_projects.projectDatabase();
-    if (project != nullptr && project->path() != examplePath()) {
-        return QFileInfo(project->path()).absolutePath();
+    if (project != nullptr && !project->folder().isNull() && project->path() != examplePath()) {
+        return project->folder();
     }
-    // The example lies where nobody looks for files.
+    // The example lies where nobody looks for files, and a server has no folder.
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QFileInfo::exists(documents) ? documents : QDir::homePath();
 }
@@ -146,12 +156,47 @@ void ProjectCommands::askForOpen() {
     }
 }
 
+void ProjectCommands::askForServer() {
+    const QString key = QStringLiteral("address");
+    TInputsDialog dialog(tr("Project on a server", "Projet sur un serveur"), &m_window);
+    dialog.addTextInput(key, tr("Address", "Adresse"), {}, QLineEdit::Normal,
+                        QStringLiteral("postgresql://user@host/database"));
+    if (dialog.exec() == 0) {
+        return;
+    }
+    const QString address = dialog.getTextIntput(key);
+    attempt([&] {
+        const QString shownAddress = TechDB::ServerAddress(address).shown(); // refuses what is no address
+        if (!m_launcher.closeAll()) {
+            return;
+        }
+        try {
+            m_projects.open(address);
+        } catch (const TechDB::SqlError& error) {
+            if (error.failure() != TechDB::SqlFailure::NotADatabase) {
+                throw;
+            }
+            if (isNewWantedOn(shownAddress)) {
+                m_projects.create(address);
+            }
+        }
+    });
+}
+
+bool ProjectCommands::isNewWantedOn(const QString& address) const {
+    const QString question =
+        tr("The database <b>%1</b> holds no project yet. Make one in it?",
+           "La base de données <b>%1</b> ne contient pas encore de projet. En créer un ?")
+            .arg(address.toHtmlEscaped());
+    return QMessageBox::question(&m_window, tr("Project on a server", "Projet sur un serveur"), question) ==
+           QMessageBox::Yes;
+}
+
 void ProjectCommands::askForBackup() {
     const TechDB::TDatabase* const project = m_projects.projectDatabase();
-    const QFileInfo file(project->path());
     const QString proposed = QStringLiteral("%1/%2 %3.%4")
-                                 .arg(folder(), file.completeBaseName(),
-                                      QDate::currentDate().toString(Qt::ISODate), ProjectMgr::fileSuffix());
+                                 .arg(folder(), project->title(), QDate::currentDate().toString(Qt::ISODate),
+                                      ProjectMgr::fileSuffix());
     const QString path = QFileDialog::getSaveFileName(&m_window, tr("Backup copy", "Copie de sauvegarde"),
                                                       proposed, fileFilter());
     if (path.isEmpty()) {

@@ -8,8 +8,8 @@ class QAction;
 class QMenu;
 class QWidget;
 
-/// The actions on projects: new, open, recent, example, backup copy. They ask for files and report failures
-/// on the log; before another project opens, the modules end, and stay if one can't save.
+/// The actions on projects: new, open, on a server, recent, example, backup copy. They ask for files and
+/// report failures on the log; before another project opens, the modules end, and stay if one can't save.
 class ProjectCommands : public QObject {
     Q_OBJECT
 
@@ -20,6 +20,7 @@ public:
 
     QAction* newAction() const { return m_new; }
     QAction* openAction() const { return m_open; }
+    QAction* serverAction() const { return m_server; }
     QAction* exampleAction() const { return m_example; }
     QAction* backupAction() const { return m_backup; }
     QMenu* recentMenu() const { return m_recent; }
@@ -36,6 +37,8 @@ public slots:
 private:
     void askForNew();
     void askForOpen();
+    void askForServer();
+    bool isNewWantedOn(const QString& address) const;
     void askForBackup();
     void fillRecentMenu();
     template <class Operation>
@@ -48,6 +51,7 @@ private:
     QWidget& m_window;
     QAction* m_new;
     QAction* m_open;
+    QAction* m_server;
     QAction* m_example;
     QAction* m_backup;
     QMenu* m_recent;

@@ -1,6 +1,7 @@
 #include "ProjectMgr.h"
 
 #include "MessageLoggerInterface.h"
+#include "ServerAddress.h"
 #include "TDatabase.h"
 #include "VKDatabaseImport.h"
 #include "VKError.h"
@@ -8,18 +9,34 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <utility>
+
+using TechDB::ServerAddress;
 
 namespace {
 
 constexpr int mostRecent = 8;
 const QString recentKey = QStringLiteral("projects/recent");
 
-bool isSameFile(const QString& a, const QString& b) {
+bool isSame(const QString& a, const QString& b) {
+    if (ServerAddress::isAddress(a)) {
+        return ServerAddress(a).shown() == b;
+    }
     const QString canonical = QFileInfo(a).canonicalFilePath();
     return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
+}
+
+/// Beside a project's file. For a project on a server it is on this desk, where its files are imported.
+QString importFolder(const TechDB::TDatabase& project) {
+    const QString end = QStringLiteral(".import");
+    if (!project.folder().isNull()) {
+        return QDir(project.folder()).filePath(project.title() + end);
+    }
+    const QDir own(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return own.filePath(QStringLiteral("server/") + project.projectId() + end);
 }
 
 } // namespace
@@ -36,10 +53,8 @@ TechDB::TDatabase* ProjectMgr::projectDatabase() const {
 
 VKDatabaseImport* ProjectMgr::importDatabase() const {
     if (m_import == nullptr && m_project != nullptr) {
-        const QFileInfo project(m_project->path());
         try {
-            m_import = VKDatabaseImport::open(
-                project.dir().filePath(project.completeBaseName() + QStringLiteral(".import")));
+            m_import = VKDatabaseImport::open(importFolder(*m_project));
         } catch (const VKError& error) {
             // The importing module goes on to name the file that did not come in.
             MessageLoggerInterface::Error(error.text());
@@ -49,13 +64,14 @@ VKDatabaseImport* ProjectMgr::importDatabase() const {
 }
 
 void ProjectMgr::open(const QString& path) {
-    if (m_project != nullptr && isSameFile(path, m_project->path())) {
+    if (m_project != nullptr && isSame(path, m_project->path())) {
         return;
     }
     std::unique_ptr<TechDB::TDatabase> project = TechDB::TDatabase::open(path);
     close();
     m_project = std::move(project);
-    remember(path);
+    m_project->followOthers();
+    remember(m_project->path());
     emit opened(m_project.get());
 }
 
@@ -64,11 +80,16 @@ void ProjectMgr::create(const QString& path) {
 }
 
 void ProjectMgr::create(const QString& path, const std::function<void(TechDB::TDatabase&)>& fill) {
-    if (m_project != nullptr && isSameFile(path, m_project->path())) {
+    if (m_project != nullptr && isSame(path, m_project->path())) {
         throw VKError(tr("The project <b>%1</b> is open.", "Le projet <b>%1</b> est ouvert.")
                           .arg(QDir::toNativeSeparators(path).toHtmlEscaped()),
                       {},
                       tr("Choose another name for the new one.", "Choisissez un autre nom pour le nouveau."));
+    }
+    if (ServerAddress::isAddress(path)) {
+        fill(*TechDB::TDatabase::create(path));
+        open(path);
+        return;
     }
     const QTemporaryDir folder;
     {
@@ -93,7 +114,7 @@ QStringList ProjectMgr::recentProjects() {
     QStringList there;
     const QStringList all = QSettings().value(recentKey).toStringList();
     for (const QString& path : all) {
-        if (QFileInfo(path).isFile()) {
+        if (ServerAddress::isAddress(path) || QFileInfo(path).isFile()) {
             there.append(path);
         }
     }
@@ -103,7 +124,7 @@ QStringList ProjectMgr::recentProjects() {
 void ProjectMgr::remember(const QString& path) {
     QSettings settings;
     QStringList recent = settings.value(recentKey).toStringList();
-    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const QString absolute = ServerAddress::isAddress(path) ? path : QFileInfo(path).absoluteFilePath();
     recent.removeAll(absolute);
     recent.prepend(absolute);
     settings.setValue(recentKey, QStringList(recent.mid(0, mostRecent)));

@@ -61,8 +61,7 @@ void Workbench::showHelp(int helpId) {
 
 void Workbench::showTitle() {
     const TechDB::TDatabase* const project = m_projects.projectDatabase();
-    const QString name =
-        project == nullptr ? tr("no project", "aucun projet") : QFileInfo(project->path()).completeBaseName();
+    const QString name = project == nullptr ? tr("no project", "aucun projet") : project->title();
     m_window.showStatus(project == nullptr ? QString() : QDir::toNativeSeparators(project->path()));
     m_window.setWindowTitle(tr("%1 – Vorn workbench", "%1 – Atelier Vorn").arg(name));
 }

@@ -111,6 +111,7 @@ void ProjectTree::setProject(TechDB::TDatabase* project) {
     m_model->setProject(project);
     if (project != nullptr) {
         connect(project, &TechDB::TDatabase::changed, this, &ProjectTree::refreshSoon);
+        connect(project, &TechDB::TDatabase::changedElsewhere, this, &ProjectTree::refreshSoon);
     }
     refresh();
 }
