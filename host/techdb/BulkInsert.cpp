@@ -14,7 +14,7 @@ BulkInsert::BulkInsert(SqlConnection& connection, const QString& target, int col
     m_values.reserve(rowsAtOnce * columns);
 }
 
-void BulkInsert::add(std::initializer_list<QVariant> row) {
+void BulkInsert::add(const SqlConnection::Values& row) {
     for (const QVariant& value : row) {
         m_values.append(value);
     }

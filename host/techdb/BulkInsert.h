@@ -2,8 +2,6 @@
 
 #include "SqlConnection.h"
 
-#include <initializer_list>
-
 namespace TechDB {
 
 /// Inserts many rows into a table, several with one statement: a statement a row takes three times as long.
@@ -13,7 +11,7 @@ public:
     BulkInsert(SqlConnection& connection, const QString& target, int columns);
 
     /// A value for each column. Rows are written in their order, by and by.
-    void add(std::initializer_list<QVariant> row);
+    void add(const SqlConnection::Values& row);
     /// Writes the rows that are left.
     void finish();
 

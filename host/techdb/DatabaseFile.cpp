@@ -93,6 +93,15 @@ void migrate(SqlConnection& connection, const DatabaseSchema& schema, int versio
                   translated("Choose another file or folder.", "Choisissez un autre fichier ou dossier."));
 }
 
+void checkNotOpen(const QString& target) {
+    // A log beside it would be taken for that of the new file.
+    if (QFileInfo::exists(target + QLatin1String("-wal"))) {
+        throwNoCopy(target, translated("it is open in a window, or was when the program ended.",
+                                       "il est ouvert dans une fenêtre, ou l'était quand le programme s'est "
+                                       "arrêté."));
+    }
+}
+
 void checkTarget(const SqlConnection& connection, const QString& target) {
     const QFileInfo file(target);
     if (connection.inTransaction()) {
@@ -104,12 +113,7 @@ void checkTarget(const SqlConnection& connection, const QString& target) {
             target,
             translated("it is the %1 itself.", "c'est le %1 lui-même.").arg(nameOf(connection.kind())));
     }
-    // A log beside it would be taken for that of the new file.
-    if (QFileInfo::exists(target + QLatin1String("-wal"))) {
-        throwNoCopy(target, translated("it is open in a window, or was when the program ended.",
-                                       "il est ouvert dans une fenêtre, ou l'était quand le programme s'est "
-                                       "arrêté."));
-    }
+    checkNotOpen(target);
 }
 
 /// With what the engine may have left beside it.
@@ -130,6 +134,15 @@ bool isWhole(DatabaseKind kind, const QString& path) {
 
 std::filesystem::path native(const QString& path) {
     return std::filesystem::path(path.toStdU16String());
+}
+
+void takePlaceOf(const QString& made, const QString& target) {
+    std::error_code failure;
+    std::filesystem::rename(native(made), native(target), failure);
+    if (failure) {
+        throwNoCopy(target,
+                    QString::fromLocal8Bit(failure.message().c_str()).toHtmlEscaped() + QLatin1Char('.'));
+    }
 }
 
 /// Gives a finished file its name, unless another one got it meanwhile. A link is refused then; Qt's renaming
@@ -203,13 +216,25 @@ void copy(SqlConnection& connection, const QString& target) {
                     translated("the %1 is damaged.", "le %1 est endommagé.").arg(nameOf(connection.kind())));
     }
     part.setPermissions(QFile::permissions(connection.place()));
-    std::error_code failure;
-    std::filesystem::rename(native(part.fileName()), native(target), failure);
-    if (failure) {
-        throwNoCopy(target,
-                    QString::fromLocal8Bit(failure.message().c_str()).toHtmlEscaped() + QLatin1Char('.'));
-    }
+    takePlaceOf(part.fileName(), target);
     part.setAutoRemove(false);
+}
+
+void write(const QString& target, DatabaseKind kind, const std::function<void(SqlConnection&)>& fill) {
+    checkNotOpen(target);
+    const QString part = target + QLatin1String(".part");
+    QFile file(part);
+    if (!file.open(QIODevice::ReadWrite)) { // which makes it if need be
+        throwNoCopy(target, file.errorString().toHtmlEscaped() + QLatin1Char('.'));
+    }
+    file.close();
+    {
+        const std::unique_ptr<SqlConnection> connection = connected(kind, part);
+        setUpOfOwn(*connection);
+        fill(*connection);
+    }
+    checkNotOpen(target);
+    takePlaceOf(part, target);
 }
 
 } // namespace TechDB::DatabaseFile

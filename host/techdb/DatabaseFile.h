@@ -2,6 +2,7 @@
 
 #include "DatabaseSchema.h"
 
+#include <functional>
 #include <memory>
 
 namespace TechDB {
@@ -28,6 +29,10 @@ std::unique_ptr<SqlConnection> openOrCreate(const QString& path, const DatabaseS
 /// then replaces what lay there. Refuses the database itself, a file that another window has open, and a copy
 /// while a transaction is open.
 void copy(SqlConnection& connection, const QString& target);
+
+/// Lets `fill` write a database into a file that is new or was left by an earlier call for the same target
+/// that failed; then that file takes the place of what lies under `target`, refused as by `copy`.
+void write(const QString& target, DatabaseKind kind, const std::function<void(SqlConnection&)>& fill);
 
 } // namespace DatabaseFile
 

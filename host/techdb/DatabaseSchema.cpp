@@ -60,19 +60,22 @@ void DatabaseSchema::create(SqlConnection& connection, const QString& id, const 
         {id, version(), instant});
 }
 
-int DatabaseSchema::versionOf(SqlConnection& connection) const {
-    QVariant found;
+std::optional<int> DatabaseSchema::findVersion(SqlConnection& connection) const {
+    std::optional<int> found;
     try {
         connection.select(QStringLiteral("SELECT schema_version FROM %1 WHERE only_row = 1").arg(identity()),
-                          {}, [&found](const QSqlQuery& row) { found = row.value(0); });
+                          {}, [&found](const QSqlQuery& row) { found = row.value(0).toInt(); });
     } catch (const SqlError& error) {
         // A database of somebody else's has no such table; any other failure keeps its own words.
         if (error.failure() != SqlFailure::Other) {
             throw;
         }
-        failAsForeign(connection);
     }
-    const int stored = found.toInt();
+    return found;
+}
+
+int DatabaseSchema::versionOf(SqlConnection& connection) const {
+    const int stored = findVersion(connection).value_or(0);
     if (stored < 1) {
         failAsForeign(connection);
     }
@@ -88,13 +91,22 @@ int DatabaseSchema::knownVersionOf(SqlConnection& connection) const {
 }
 
 QString DatabaseSchema::idOf(SqlConnection& connection) const {
-    QString id;
-    connection.select(QStringLiteral("SELECT id FROM %1 WHERE only_row = 1").arg(identity()), {},
-                      [&id](const QSqlQuery& row) { id = row.value(0).toString(); });
+    const QString id = identityCell(connection, QStringLiteral("id"));
     if (QUuid(id).isNull()) {
         failAsForeign(connection);
     }
     return id;
+}
+
+QString DatabaseSchema::createdOf(SqlConnection& connection) const {
+    return identityCell(connection, QStringLiteral("created"));
+}
+
+QString DatabaseSchema::identityCell(SqlConnection& connection, const QString& column) const {
+    QString text;
+    connection.select(QStringLiteral("SELECT %1 FROM %2 WHERE only_row = 1").arg(column, identity()), {},
+                      [&text](const QSqlQuery& row) { text = row.value(0).toString(); });
+    return text;
 }
 
 // Another window may have brought it forward while this one waited to write.

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <optional>
+
 namespace TechDB {
 
 class SqlConnection;
@@ -25,12 +27,16 @@ public:
     /// Makes the tables in an empty database and gives it its identity.
     void create(SqlConnection& connection, const QString& id, const QString& instant) const;
 
+    /// The number that stands where a database says its version; none if that place is not there.
+    std::optional<int> findVersion(SqlConnection& connection) const;
     /// The version that a database says it has. Throws VKError if it isn't one of this kind.
     int versionOf(SqlConnection& connection) const;
     /// The same; also throws for a version that is newer than this one.
     int knownVersionOf(SqlConnection& connection) const;
     /// The identity (a UUID) that a database was created with.
     QString idOf(SqlConnection& connection) const;
+    /// When it was created, as it is stored.
+    QString createdOf(SqlConnection& connection) const;
 
     /// Leads a database from whatever older version it has to this one, in one transaction.
     void bringForward(SqlConnection& connection) const;
@@ -40,6 +46,7 @@ public:
 
 private:
     QString identity() const;
+    QString identityCell(SqlConnection& connection, const QString& column) const;
     void migrate(SqlConnection& connection, int from) const;
 
     DatabaseKind m_kind;

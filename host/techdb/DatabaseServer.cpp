@@ -2,9 +2,9 @@
 
 #include "PostgresDialect.h"
 #include "SqlConnection.h"
-#include "SqlError.h"
 #include "SqlTransaction.h"
 #include "StoredInstant.h"
+#include "VKError.h"
 
 #include <QCoreApplication>
 #include <QUuid>
@@ -17,26 +17,15 @@ QString translated(const char* english, const char* french) {
     return QCoreApplication::translate("TechDB::DatabaseServer", english, french);
 }
 
-std::unique_ptr<SqlConnection> connected(DatabaseKind kind, const QString& address) {
+} // namespace
+
+std::unique_ptr<SqlConnection> connected(const QString& address, DatabaseKind kind) {
     return std::make_unique<SqlConnection>(kind, address, std::make_unique<PostgresDialect>());
 }
 
-bool holdsOne(SqlConnection& connection, const DatabaseSchema& schema) {
-    try {
-        return schema.versionOf(connection) > 0;
-    } catch (const SqlError& error) {
-        if (error.failure() != SqlFailure::NotADatabase) {
-            throw;
-        }
-        return false;
-    }
-}
-
-} // namespace
-
 std::unique_ptr<SqlConnection> create(const QString& address, const DatabaseSchema& schema) {
-    std::unique_ptr<SqlConnection> connection = connected(schema.kind(), address);
-    if (holdsOne(*connection, schema)) {
+    std::unique_ptr<SqlConnection> connection = connected(address, schema.kind());
+    if (schema.findVersion(*connection)) {
         throw VKError(translated("The database <b>%1</b> holds a %2 already.",
                                  "La base de données <b>%1</b> contient déjà un %2.")
                           .arg(connection->shown().toHtmlEscaped(), nameOf(schema.kind())),
@@ -51,7 +40,7 @@ std::unique_ptr<SqlConnection> create(const QString& address, const DatabaseSche
 }
 
 std::unique_ptr<SqlConnection> open(const QString& address, const DatabaseSchema& schema) {
-    std::unique_ptr<SqlConnection> connection = connected(schema.kind(), address);
+    std::unique_ptr<SqlConnection> connection = connected(address, schema.kind());
     if (schema.knownVersionOf(*connection) < schema.version()) {
         schema.bringForward(*connection);
     }

@@ -12,6 +12,9 @@ class SqlConnection;
 /// and holds nothing else of ours. Places are addresses (`ServerAddress`). Failures are thrown as VKError.
 namespace DatabaseServer {
 
+/// A connection to whatever is there.
+std::unique_ptr<SqlConnection> connected(const QString& address, DatabaseKind kind);
+
 /// Makes the tables in one transaction. Refuses a database that holds such tables already.
 std::unique_ptr<SqlConnection> create(const QString& address, const DatabaseSchema& schema);
 

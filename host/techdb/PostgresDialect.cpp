@@ -67,6 +67,14 @@ QStringList PostgresDialect::beforeCommit() const {
     return {QStringLiteral("NOTIFY ") + channel()};
 }
 
+QString PostgresDialect::beginReading() const {
+    return QStringLiteral("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY");
+}
+
+QString PostgresDialect::continueKeys(const QString& table) const {
+    return QStringLiteral("SELECT setval(pg_get_serial_sequence('%1', 'id'), max(id)) FROM %1").arg(table);
+}
+
 QString PostgresDialect::channel() const {
     return QStringLiteral("vorn_project");
 }

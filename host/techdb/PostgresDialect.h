@@ -17,7 +17,9 @@ public:
     QStringList setUpOfReplaceable() const override;
     QString adapted(const QString& statement) const override;
     QStringList beginWriting() const override;
+    QString beginReading() const override;
     QStringList beforeCommit() const override;
+    QString continueKeys(const QString& table) const override;
     QString channel() const override;
     QString commitCounter() const override;
     QString copyToFile() const override;

@@ -54,6 +54,7 @@ public:
     static QVariant text(const QString& value);
 
 private:
+    friend class SqlSnapshot;
     friend class SqlTransaction;
 
     void open();

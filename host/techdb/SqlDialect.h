@@ -56,8 +56,12 @@ public:
     virtual QString adapted(const QString& statement) const = 0;
     /// Begins a transaction that may write at once: it waits for other writers here and nowhere later.
     virtual QStringList beginWriting() const = 0;
+    /// Begins a transaction that reads one state of the database.
+    virtual QString beginReading() const = 0;
     /// What a transaction runs before it is committed.
     virtual QStringList beforeCommit() const = 0;
+    /// Lets new keys of a table follow those that were given to it from outside; empty if they do.
+    virtual QString continueKeys(const QString& table) const = 0;
     /// The channel on which each commit tells the other connections; empty if there is none.
     virtual QString channel() const = 0;
     /// Selects a number that is another one after each commit of another connection; empty if a channel

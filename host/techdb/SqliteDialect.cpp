@@ -58,6 +58,14 @@ QStringList SqliteDialect::beforeCommit() const {
     return {};
 }
 
+QString SqliteDialect::beginReading() const {
+    return QStringLiteral("BEGIN");
+}
+
+QString SqliteDialect::continueKeys(const QString&) const {
+    return {};
+}
+
 QString SqliteDialect::channel() const {
     return {};
 }

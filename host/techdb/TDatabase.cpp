@@ -9,6 +9,7 @@
 #include "MessageLoggerInterface.h"
 #include "NumberedName.h"
 #include "ObjectPool.h"
+#include "ProjectCopy.h"
 #include "ReadAhead.h"
 #include "SampleStore.h"
 #include "ServerAddress.h"
@@ -283,7 +284,21 @@ void TDatabase::followOthers() {
 }
 
 void TDatabase::backupTo(const QString& path) const {
-    DatabaseFile::copy(*m_connection, path);
+    if (folder().isNull()) {
+        copyTo(path, [](qint64, qint64) {});
+    } else {
+        DatabaseFile::copy(*m_connection, path);
+    }
+}
+
+void TDatabase::copyTo(const QString& place,
+                       const std::function<void(qint64 done, qint64 total)>& progress) const {
+    const auto copyInto = [&](SqlConnection& target) { ProjectCopy(*m_connection, target).run(progress); };
+    if (ServerAddress::isAddress(place)) {
+        copyInto(*DatabaseServer::connected(place, m_connection->kind()));
+    } else {
+        DatabaseFile::write(place, m_connection->kind(), copyInto);
+    }
 }
 
 QStringList TDatabase::problems() const {

@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -106,8 +107,13 @@ public:
     /// From now on `changedElsewhere` is emitted.
     void followOthers();
 
-    /// Writes a whole, checked copy; what lies under the path is replaced once the copy is complete.
+    /// Writes a whole, checked copy into a file; what lies under the path is replaced once the copy is
+    /// complete.
     void backupTo(const QString& path) const;
+    /// Copies everything to a file or to a server and compares the two in the end (`ProjectCopy`). A call
+    /// that failed can be repeated: what is there already isn't written again. `progress` is told how many
+    /// steps of how many are done.
+    void copyTo(const QString& place, const std::function<void(qint64 done, qint64 total)>& progress) const;
     /// Reads all of the file and tells, one sentence each, what is wrong with it. Empty if nothing is.
     QStringList problems() const;
 
