@@ -56,7 +56,7 @@ QAction* MainMenu::action(const QString& icon, const QKeySequence& shortcut) {
 void MainMenu::buildMenus(const ProjectCommands& projects) {
     m_project->addActions({projects.newAction(), projects.openAction(), projects.serverAction()});
     m_project->addMenu(projects.recentMenu());
-    m_project->addActions({projects.exampleAction(), projects.backupAction()});
+    m_project->addActions({projects.exampleAction(), projects.backupAction(), projects.serverCopyAction()});
     m_project->addSeparator();
     m_project->addAction(m_quit);
 

@@ -9,6 +9,7 @@
 #include "TDatabase.h"
 #include "TInputsDialog.h"
 #include "TLineIcon.h"
+#include "TProgressBarMgr.h"
 #include "VKError.h"
 
 #include <QAction>
@@ -20,6 +21,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace {
 
@@ -47,10 +50,12 @@ ProjectCommands::ProjectCommands(ProjectMgr& projects, ModuleLauncher& launcher,
       m_server(new QAction(TLineIcon::icon(QStringLiteral("link_axes")), {}, this)),
       m_example(new QAction(TLineIcon::icon(QStringLiteral("project")), {}, this)),
       m_backup(new QAction(TLineIcon::icon(QStringLiteral("backup")), {}, this)),
+      m_serverCopy(new QAction(TLineIcon::icon(QStringLiteral("send")), {}, this)),
       m_recent(new QMenu(&window)) {
     m_new->setShortcut(QKeySequence::New);
     m_open->setShortcut(QKeySequence::Open);
     m_backup->setEnabled(false);
+    m_serverCopy->setEnabled(false);
     m_recent->setIcon(TLineIcon::icon(QStringLiteral("project_recent")));
     connect(m_new, &QAction::triggered, this, &ProjectCommands::askForNew);
     connect(m_open, &QAction::triggered, this, &ProjectCommands::askForOpen);
@@ -58,8 +63,11 @@ ProjectCommands::ProjectCommands(ProjectMgr& projects, ModuleLauncher& launcher,
     connect(m_example, &QAction::triggered, this, &ProjectCommands::openExample);
     connect(m_backup, &QAction::triggered, this, &ProjectCommands::askForBackup);
     connect(m_recent, &QMenu::aboutToShow, this, &ProjectCommands::fillRecentMenu);
-    connect(&m_projects, &ProjectMgr::opened, m_backup,
-            [this](const TechDB::TDatabase* project) { m_backup->setEnabled(project != nullptr); });
+    connect(m_serverCopy, &QAction::triggered, this, &ProjectCommands::askForServerCopy);
+    for (QAction* const copy : {m_backup, m_serverCopy}) {
+        connect(&m_projects, &ProjectMgr::opened, copy,
+                [copy](const TechDB::TDatabase* project) { copy->setEnabled(project != nullptr); });
+    }
     translate();
 }
 
@@ -78,6 +86,9 @@ void ProjectCommands::translate() {
         tr("Open the project with the example curves", "Ouvrir le projet des courbes d'exemple"));
     m_backup->setText(tr("Backup copy…", "Copie de sauvegarde…"));
     m_backup->setToolTip(tr("Save a copy of the project", "Enregistrer une copie du projet"));
+    m_serverCopy->setText(tr("Copy to a server…", "Copier vers un serveur…"));
+    m_serverCopy->setToolTip(tr("Copy the project into an empty database that several desks share",
+                                "Copier le projet dans une base vide que plusieurs postes partagent"));
     m_recent->setTitle(tr("Recent", "Récents"));
 }
 
@@ -156,15 +167,19 @@ void ProjectCommands::askForOpen() {
     }
 }
 
-void ProjectCommands::askForServer() {
+QString ProjectCommands::askForAddress(const QString& title) {
     const QString key = QStringLiteral("address");
-    TInputsDialog dialog(tr("Project on a server", "Projet sur un serveur"), &m_window);
+    TInputsDialog dialog(title, &m_window);
     dialog.addTextInput(key, tr("Address", "Adresse"), {}, QLineEdit::Normal,
                         QStringLiteral("postgresql://user@host/database"));
-    if (dialog.exec() == 0) {
+    return dialog.exec() == 0 ? QString() : dialog.getTextIntput(key);
+}
+
+void ProjectCommands::askForServer() {
+    const QString address = askForAddress(tr("Project on a server", "Projet sur un serveur"));
+    if (address.isEmpty()) {
         return;
     }
-    const QString address = dialog.getTextIntput(key);
     attempt([&] {
         const QString shownAddress = TechDB::ServerAddress(address).shown(); // refuses what is no address
         if (!m_launcher.closeAll()) {
@@ -190,6 +205,24 @@ bool ProjectCommands::isNewWantedOn(const QString& address) const {
             .arg(address.toHtmlEscaped());
     return QMessageBox::question(&m_window, tr("Project on a server", "Projet sur un serveur"), question) ==
            QMessageBox::Yes;
+}
+
+void ProjectCommands::askForServerCopy() {
+    const QString address = askForAddress(tr("Copy to a server", "Copie vers un serveur"));
+    if (address.isEmpty()) {
+        return;
+    }
+    attempt([&] {
+        const QString shownAddress = TechDB::ServerAddress(address).shown();
+        TProgressBarMgr progress(1000, tr("Copying the project", "Copie du projet"), true);
+        m_projects.projectDatabase()->copyTo(address, [&progress](qint64 done, qint64 total) {
+            progress.setProgress(static_cast<int>(1000 * done / std::max<qint64>(total, 1)), true);
+        });
+        MessageLoggerInterface::Information(
+            tr("The project was copied to <b>%1</b> and compared with it; it can be opened there.",
+               "Le projet a été copié vers <b>%1</b> et comparé ; il peut y être ouvert.")
+                .arg(shownAddress.toHtmlEscaped()));
+    });
 }
 
 void ProjectCommands::askForBackup() {

@@ -21,6 +21,7 @@ public:
     QAction* newAction() const { return m_new; }
     QAction* openAction() const { return m_open; }
     QAction* serverAction() const { return m_server; }
+    QAction* serverCopyAction() const { return m_serverCopy; }
     QAction* exampleAction() const { return m_example; }
     QAction* backupAction() const { return m_backup; }
     QMenu* recentMenu() const { return m_recent; }
@@ -38,6 +39,8 @@ private:
     void askForNew();
     void askForOpen();
     void askForServer();
+    void askForServerCopy();
+    QString askForAddress(const QString& title);
     bool isNewWantedOn(const QString& address) const;
     void askForBackup();
     void fillRecentMenu();
@@ -54,5 +57,6 @@ private:
     QAction* m_server;
     QAction* m_example;
     QAction* m_backup;
+    QAction* m_serverCopy;
     QMenu* m_recent;
 };

@@ -7,6 +7,7 @@
 #include "ModuleLauncherInterface.h"
 #include "ProjectMgrInterface.h"
 #include "RibbonInterface.h"
+#include "ServerDatabase.h"
 #include "TDatabase.h"
 #include "VKDataModelGeneric.h"
 #include "VKError.h"
@@ -71,7 +72,8 @@ struct BothLanguages : QTranslator {
 
 class ImportTest : public testing::Test {
 protected:
-    ImportTest() : project(TechDB::TDatabase::create(folder.filePath("lab.vornproj"))) {
+    ImportTest()
+        : project(TechDB::TDatabase::create(server ? server->address() : folder.filePath("lab.vornproj"))) {
         MessageLoggerInterface::setDefaultLogger(&log);
         host.project = project.get();
     }
@@ -101,6 +103,8 @@ protected:
     }
 
     const QTemporaryDir folder;
+    const std::unique_ptr<ServerDatabase> server =
+        ServerDatabase::isThere() ? std::make_unique<ServerDatabase>() : nullptr;
     const BothLanguages translator;
     MessageCollector log;
     const std::unique_ptr<TechDB::TDatabase> project;

@@ -55,7 +55,9 @@ TEST_F(CustomImport, unknown_columns_become_parameters_and_are_known_the_next_ti
 }
 
 TEST_F(CustomImport, without_a_catalogue_or_a_table_only_errors_are_told) {
-    catalogue.setPlace(project->path() + "/catalogue"); // below a file, so it can't be made
+    QFile file(folder.filePath("file"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    catalogue.setPlace(file.fileName() + "/catalogue"); // below a file, so it can't be made
     EXPECT_EQ(module.getNoneEIC() + module.getCompoundID("x"), "-1-1");
     process({"x"});
     EXPECT_EQ(errors().last(), "An internal error occurred: impossible to create pseudo-compounds|Une erreur "

@@ -31,7 +31,7 @@ protected:
 
     ImportRoads() {
         VKDatabaseVornMGR::getInstance()->setPlace(path("parameters.sqlite"));
-        workbench->projects().create(path("lab.vornproj"));
+        workbench->projects().create(place());
     }
     ~ImportRoads() override { VKDatabaseVornMGR::getInstance()->close(); }
 

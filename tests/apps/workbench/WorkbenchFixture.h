@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MessageLogModel.h"
+#include "ServerDatabase.h"
 #include "Workbench.h"
 
 #include <gtest/gtest.h>
@@ -29,6 +30,8 @@ protected:
     }
 
     QString path(const QString& name) const { return folder.filePath(name); }
+    /// Where the road's project is: a file, or the tests' server if there is one.
+    QString place() const { return server ? server->address() : path("lab.vornproj"); }
     TechDB::TDatabase& project() { return *workbench->projects().projectDatabase(); }
     Workspace& workspace() { return workbench->window().workspace(); }
     ProjectTree& tree() { return workbench->window().tree(); }
@@ -54,5 +57,7 @@ protected:
     }
 
     const QTemporaryDir folder;
+    const std::unique_ptr<ServerDatabase> server =
+        ServerDatabase::isThere() ? std::make_unique<ServerDatabase>() : nullptr;
     std::unique_ptr<Workbench> workbench;
 };
