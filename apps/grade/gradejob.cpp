@@ -51,19 +51,17 @@ public:
     void addOutput(std::unique_ptr<Output> output) { m_outputs.push_back(std::move(output)); }
 
     void work() {
-        const InputFiles inputs = findInputFiles(m_options.paths, m_console.in);
-        Progress progress(m_console.err, m_console.showProgress, inputs.files.size());
-        for (const auto& failure : inputs.failures) {
-            take(failure);
+        PathList listed(m_console.in, m_options.listedPathEnd);
+        if (m_options.format == Format::json && m_options.paths == std::vector<std::string>{"-"}) {
+            gradeAsListed(listed);
+        } else {
+            gradeInOrder(listed);
         }
-        const auto curves = m_options.report ? gradereport::Curves::included : gradereport::Curves::leftOut;
-        for (const std::string& path : inputs.files) {
-            const Outcome outcome = gradeFile(path, m_options.settings, curves);
-            progress.clear();
-            std::visit([this](const auto& result) { take(result); }, outcome);
-            progress.step();
+        if (listed.broken()) {
+            m_someFailed = true;
+            m_console.err << "The paths on standard input could not be read to their end; check what gives "
+                             "them and repeat the rest.\n";
         }
-        progress.clear();
         for (const auto& output : m_outputs) {
             output->finish();
         }
@@ -73,6 +71,39 @@ public:
     [[nodiscard]] bool someFailed() const { return m_someFailed; }
 
 private:
+    void gradeInOrder(PathList& listed) {
+        const InputFiles inputs = findInputFiles(m_options.paths, listed);
+        Progress progress(m_console.err, m_console.showProgress, inputs.files.size());
+        grade(inputs, progress);
+    }
+
+    /// One path after the other, so that whoever gives them sees each outcome before the next, and nothing
+    /// is kept of the paths. Stops where nobody can take the outcomes: the list may be endless.
+    void gradeAsListed(PathList& listed) {
+        Progress progress(m_console.err, m_console.showProgress, std::nullopt);
+        while (m_console.out) {
+            const auto path = listed.next();
+            if (!path) {
+                return;
+            }
+            grade(filesAt(*path), progress);
+        }
+    }
+
+    void grade(const InputFiles& inputs, Progress& progress) {
+        for (const auto& failure : inputs.failures) {
+            progress.clear();
+            take(failure);
+        }
+        const auto curves = m_options.report ? gradereport::Curves::included : gradereport::Curves::leftOut;
+        for (const std::string& path : inputs.files) {
+            const Outcome outcome = gradeFile(path, m_options.settings, curves);
+            progress.clear();
+            std::visit([this](const auto& result) { take(result); }, outcome);
+            progress.step();
+        }
+    }
+
     void take(const GradedFile& file) {
         for (const auto& output : m_outputs) {
             output->add(file);

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <filesystem>
-#include <istream>
 #include <system_error>
 
 namespace grade {
@@ -42,6 +41,11 @@ void searchFolder(const std::string& folder, InputFiles& inputs) {
 }
 
 void resolve(const std::string& path, InputFiles& inputs) {
+    if (path.find('\0') != std::string::npos) {
+        inputs.failures.push_back({path, path + ": the path holds a zero byte, which no file name does; " +
+                                             "read a list that find -print0 wrote with --null."});
+        return;
+    }
     std::error_code ignored; // what is no folder is tried as a file, and says why it fails
     if (fs::is_directory(path, ignored)) {
         searchFolder(path, inputs);
@@ -50,32 +54,32 @@ void resolve(const std::string& path, InputFiles& inputs) {
     inputs.files.push_back(path);
 }
 
-void resolveLines(std::istream& lines, InputFiles& inputs) {
-    std::string line;
-    while (std::getline(lines, line)) {
-        if (!line.empty() && line.back() == '\r') {
-            line.pop_back();
-        }
-        if (!line.empty()) {
-            resolve(line, inputs);
-        }
-    }
+void putInOrder(std::vector<std::string>& files) {
+    std::sort(files.begin(), files.end(), naturallyLess);
+    files.erase(std::unique(files.begin(), files.end()), files.end());
 }
 
 } // namespace
 
-InputFiles findInputFiles(const std::vector<std::string>& paths, std::istream& standardInput) {
+InputFiles filesAt(const std::string& path) {
+    InputFiles inputs;
+    resolve(path, inputs);
+    putInOrder(inputs.files);
+    return inputs;
+}
+
+InputFiles findInputFiles(const std::vector<std::string>& paths, PathList& listed) {
     InputFiles inputs;
     for (const std::string& path : paths) {
-        if (path == "-") {
-            resolveLines(standardInput, inputs);
-        } else {
+        if (path != "-") {
             resolve(path, inputs);
+            continue;
+        }
+        while (const auto line = listed.next()) {
+            resolve(*line, inputs);
         }
     }
-    auto& files = inputs.files;
-    std::sort(files.begin(), files.end(), naturallyLess);
-    files.erase(std::unique(files.begin(), files.end()), files.end());
+    putInOrder(inputs.files);
     return inputs;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "gradereport/graderecord.h"
+#include "pathlist.h"
 
-#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -14,9 +14,11 @@ struct InputFiles {
     std::vector<gradereport::FailureRecord> failures;
 };
 
-/// Resolves what the user named: a folder stands for all its raw signals (.S00 of either case), also in
-/// folders below it; anything else stands for itself; "-" stands for the paths in `standardInput`, one a
-/// line. Links to folders are not followed.
-[[nodiscard]] InputFiles findInputFiles(const std::vector<std::string>& paths, std::istream& standardInput);
+/// Resolves one path: a folder stands for all its raw signals (.S00 of either case), also in folders below
+/// it; anything else stands for itself. Links to folders are not followed.
+[[nodiscard]] InputFiles filesAt(const std::string& path);
+
+/// Resolves all that the user named, each as `filesAt` does; "-" stands for the paths that `listed` gives.
+[[nodiscard]] InputFiles findInputFiles(const std::vector<std::string>& paths, PathList& listed);
 
 } // namespace grade

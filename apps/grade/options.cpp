@@ -46,13 +46,19 @@ void describe(CLI::App& app, Options& options) {
     app.add_option("--ml", options.machineLearning,
                    "write curves and grades for machine learning to this file")
         ->type_name("FILE");
+    app.add_flag_callback(
+        "-0,--null", [&options] { options.listedPathEnd = PathEnd::zero; },
+        "paths on standard input end in a zero byte, as find -print0 writes them");
     app.add_option("PATH", options.paths,
                    "raw files, or folders that are searched for .S00; - reads paths from "
-                   "standard input")
+                   "standard input, one a line")
         ->required()
         ->type_name("");
     app.set_version_flag("--version", std::string("vorn-grade ") + version());
-    app.footer("Exit status: 0 all graded, 1 some file could not be read, 2 wrong usage.");
+    app.footer("Files are graded in natural order, each once. With --format json and - as the only path, "
+               "they are\ngraded in the order of the input instead, each line written before the next path "
+               "is read.\n\n"
+               "Exit status: 0 all graded, 1 some file could not be read, 2 wrong usage.");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pathlist.h"
 #include "sourcerockqaqc/srqaqcsettings.h"
 
 #include <iosfwd>
@@ -18,6 +19,7 @@ struct Options {
     std::optional<std::string> report;          ///< file of the HTML report
     std::optional<std::string> machineLearning; ///< file of the matrix and labels
     std::vector<std::string> paths;             ///< at least one
+    PathEnd listedPathEnd = PathEnd::line;      ///< in standard input, where a path is "-"
 };
 
 /// What came of reading the command line: options to work with, or the status to end with.

@@ -37,6 +37,24 @@ public:
     void finish() override { writer().finish(); }
 };
 
+/// Hands each line on at once: whoever reads it may wait for it, and a run that is stopped leaves all it did.
+class JsonOutput final : public WriterOutput<gradereport::JsonLines> {
+public:
+    explicit JsonOutput(std::ostream& out) : WriterOutput(out, version()), m_out(out) {}
+
+    void add(const GradedFile& file) override {
+        WriterOutput::add(file);
+        m_out.flush();
+    }
+    void addFailure(const gradereport::FailureRecord& failure) override {
+        WriterOutput::addFailure(failure);
+        m_out.flush();
+    }
+
+private:
+    std::ostream& m_out;
+};
+
 class ReportOutput final : public WriterOutput<gradereport::HtmlReport> {
 public:
     ReportOutput(const gradereport::GradeSettings& settings, std::ostream& out)
@@ -76,7 +94,7 @@ std::unique_ptr<Output> formattedOutput(Format format, std::ostream& out, const 
     case Format::csv:
         return std::make_unique<WriterOutput<gradereport::CsvTable>>(out, version());
     case Format::json:
-        return std::make_unique<WriterOutput<gradereport::JsonLines>>(out, version());
+        return std::make_unique<JsonOutput>(out);
     case Format::table:
         break;
     }

@@ -8,7 +8,7 @@ namespace {
 constexpr std::chrono::milliseconds interval{100};
 }
 
-Progress::Progress(std::ostream& stream, bool shown, std::size_t total)
+Progress::Progress(std::ostream& stream, bool shown, std::optional<std::size_t> total)
     : m_stream(stream), m_shown(shown), m_total(total), m_lastShown(std::chrono::steady_clock::now()) {}
 
 Progress::~Progress() {
@@ -26,7 +26,11 @@ void Progress::step() {
     }
     m_lastShown = now;
     m_visible = true;
-    m_stream << "\rgrading " << m_done << " of " << m_total << "\x1b[K" << std::flush;
+    m_stream << "\rgrading " << m_done;
+    if (m_total) {
+        m_stream << " of " << *m_total;
+    }
+    m_stream << "\x1b[K" << std::flush;
 }
 
 void Progress::clear() {

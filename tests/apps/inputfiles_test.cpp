@@ -10,11 +10,17 @@
 
 namespace {
 
-using grade::findInputFiles;
 using grade::InputFiles;
 using grade::naturallyLess;
+using grade::PathEnd;
+using grade::PathList;
 
-std::istringstream noInput;
+InputFiles findInputFiles(const std::vector<std::string>& paths, const std::string& input = {},
+                          PathEnd end = PathEnd::line) {
+    std::istringstream stream(input);
+    PathList listed(stream, end);
+    return grade::findInputFiles(paths, listed);
+}
 
 } // namespace
 
@@ -38,7 +44,7 @@ TEST(InputFiles, a_folder_stands_for_its_raw_signals_in_natural_order) {
     std::filesystem::create_directory(folder.path("folder.S00"));
     std::filesystem::create_directory_symlink(folder.path(), folder.path("deep/loop"));
 
-    const InputFiles found = findInputFiles({folder.path(), folder.path("run10.S00")}, noInput);
+    const InputFiles found = findInputFiles({folder.path(), folder.path("run10.S00")});
     EXPECT_EQ(found.files, (std::vector<std::string>{folder.path("deep/er/run1.S00"), folder.path("run2.s00"),
                                                      folder.path("run10.S00")}));
     EXPECT_TRUE(found.failures.empty());
@@ -46,7 +52,7 @@ TEST(InputFiles, a_folder_stands_for_its_raw_signals_in_natural_order) {
 
 TEST(InputFiles, an_empty_folder_is_a_failure_and_any_other_path_stands_for_itself) {
     const TemporaryFolder folder;
-    const InputFiles found = findInputFiles({folder.path(), folder.path("missing.txt")}, noInput);
+    const InputFiles found = findInputFiles({folder.path(), folder.path("missing.txt")});
     ASSERT_EQ(found.failures.size(), 1U);
     EXPECT_NE(found.failures.front().error.find("no raw signal"), std::string::npos);
     EXPECT_EQ(found.files, std::vector<std::string>{folder.path("missing.txt")});
@@ -55,12 +61,22 @@ TEST(InputFiles, an_empty_folder_is_a_failure_and_any_other_path_stands_for_itse
 TEST(InputFiles, a_dash_reads_paths_from_standard_input) {
     const TemporaryFolder folder;
     folder.write("a b.S00", "x");
-    std::istringstream lines(folder.path() + "\r\n\nother.S00\n-");
-    const InputFiles found = findInputFiles({"-"}, lines);
+    const InputFiles found = findInputFiles({"-"}, folder.path() + "\r\n\nother.S00\n-");
     EXPECT_EQ(found.files.size(), 3U);
     EXPECT_EQ(std::count(found.files.begin(), found.files.end(), folder.path("a b.S00")), 1);
     EXPECT_EQ(std::count(found.files.begin(), found.files.end(), "-"), 1)
         << "inside the list it is a file name";
+}
+
+TEST(InputFiles, a_list_with_zero_bytes_is_read_as_one_only_when_told) {
+    const std::string list("a\r\nb.S00\0\0c d.S00", 17);
+    const auto files = findInputFiles({"-"}, list, PathEnd::zero).files;
+    EXPECT_EQ(files, (std::vector<std::string>{"a\r\nb.S00", "c d.S00"}));
+
+    const InputFiles untold = findInputFiles({"-"}, list);
+    EXPECT_EQ(untold.files, std::vector<std::string>{"a"});
+    ASSERT_EQ(untold.failures.size(), 1U) << "the first of the paths must not stand for all";
+    EXPECT_NE(untold.failures.front().error.find("--null"), std::string::npos);
 }
 
 TEST(Digest, agrees_with_the_published_test_vectors) {

@@ -55,9 +55,10 @@ public:
         m_json.RawValue(digits.data(), digits.size(), rapidjson::kNumberType);
     }
 
-    void writeLine(std::ostream& out) const {
+    /// With its line feed in one piece, so that a line can't be parted from it.
+    void writeLine(std::ostream& out) {
+        m_buffer.Put('\n');
         out.write(m_buffer.GetString(), static_cast<std::streamsize>(m_buffer.GetSize()));
-        out.put('\n');
     }
 
 private:
