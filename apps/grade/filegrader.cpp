@@ -24,9 +24,13 @@ std::string warningText(const rockeval::Warning& warning) {
     return warning.line == 0 ? warning.text : "line " + std::to_string(warning.line) + ": " + warning.text;
 }
 
-GradedFile graded(const std::string& path, const gradereport::EngineSettings& settings,
-                  gradereport::Curves curves) {
+Outcome graded(const std::string& path, const gradereport::EngineSettings& settings,
+               gradereport::Curves curves, const DoneInputs& done) {
     const std::string bytes = rockeval::readBytes(path);
+    std::string digest = sha256(bytes);
+    if (done.contains(digest)) {
+        return DoneBefore{};
+    }
     const rockeval::RawSignal read = rockeval::readSignal(bytes, path);
     const rockeval::Channels channels = rockeval::toChannels(read.curve);
     if (channels.time.size() > maxPoints) {
@@ -41,7 +45,7 @@ GradedFile graded(const std::string& path, const gradereport::EngineSettings& se
     GradedFile file{gradereport::describe(*signal, grading, settings, curves), std::move(signal)};
     file.record.file = path;
     file.record.name = gradereport::fileNameOf(path);
-    file.record.sha256 = sha256(bytes);
+    file.record.sha256 = std::move(digest);
     for (const rockeval::Warning& warning : read.warnings) {
         file.record.warnings.push_back(warningText(warning));
     }
@@ -51,9 +55,9 @@ GradedFile graded(const std::string& path, const gradereport::EngineSettings& se
 } // namespace
 
 Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& settings,
-                  gradereport::Curves curves) {
+                  gradereport::Curves curves, const DoneInputs& done) {
     try {
-        return graded(path, settings, curves);
+        return graded(path, settings, curves, done);
     } catch (const rockeval::ReadError& error) {
         return gradereport::FailureRecord{path, error.what()};
     } catch (const std::bad_alloc&) {

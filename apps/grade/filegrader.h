@@ -1,5 +1,6 @@
 #pragma once
 
+#include "doneinputs.h"
 #include "gradereport/describe.h"
 #include "gradereport/graderecord.h"
 
@@ -16,14 +17,17 @@ struct GradedFile {
     std::shared_ptr<const gradereport::Grading::Signal> signal;
 };
 
-using Outcome = std::variant<GradedFile, gradereport::FailureRecord>;
+/// A file whose bytes were graded before.
+struct DoneBefore {};
+
+using Outcome = std::variant<GradedFile, gradereport::FailureRecord, DoneBefore>;
 
 /// A curve of more points than this is no pyrolysis curve, and smoothing it would take minutes.
 constexpr std::size_t maxPoints = 200000;
 
-/// Reads one raw file and grades it. Whatever goes wrong becomes a failure with a sentence, never an
-/// exception.
+/// Reads one raw file and grades it, unless its bytes are among those that are `done`. Whatever goes wrong
+/// becomes a failure with a sentence, never an exception.
 [[nodiscard]] Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& settings,
-                                gradereport::Curves curves);
+                                gradereport::Curves curves, const DoneInputs& done = {});
 
 } // namespace grade

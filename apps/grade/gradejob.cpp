@@ -1,5 +1,6 @@
 #include "gradejob.h"
 
+#include "earlieroutput.h"
 #include "inputfiles.h"
 #include "progress.h"
 
@@ -8,6 +9,7 @@
 #include <fstream>
 #include <istream>
 #include <ostream>
+#include <stdexcept>
 
 namespace grade {
 
@@ -46,7 +48,8 @@ private:
 
 class Job {
 public:
-    Job(const Options& options, const Console& console) : m_options(options), m_console(console) {}
+    Job(const Options& options, const Console& console, DoneInputs done)
+        : m_options(options), m_console(console), m_done(std::move(done)) {}
 
     void addOutput(std::unique_ptr<Output> output) { m_outputs.push_back(std::move(output)); }
 
@@ -66,6 +69,10 @@ public:
             output->finish();
         }
         m_console.out.flush();
+        if (m_leftOut > 0) {
+            m_console.err << "Left out as done: " << m_leftOut << (m_leftOut == 1 ? " file" : " files")
+                          << " that " << *m_options.skipDone << " holds the grade of.\n";
+        }
     }
 
     [[nodiscard]] bool someFailed() const { return m_someFailed; }
@@ -97,7 +104,7 @@ private:
         }
         const auto curves = m_options.report ? gradereport::Curves::included : gradereport::Curves::leftOut;
         for (const std::string& path : inputs.files) {
-            const Outcome outcome = gradeFile(path, m_options.settings, curves);
+            const Outcome outcome = gradeFile(path, m_options.settings, curves, m_done);
             progress.clear();
             std::visit([this](const auto& result) { take(result); }, outcome);
             progress.step();
@@ -116,8 +123,12 @@ private:
         }
     }
 
+    void take(const DoneBefore&) { ++m_leftOut; }
+
     const Options& m_options;
     const Console& m_console;
+    DoneInputs m_done;
+    std::size_t m_leftOut = 0;
     std::vector<std::unique_ptr<Output>> m_outputs;
     bool m_someFailed = false;
 };
@@ -125,6 +136,19 @@ private:
 } // namespace
 
 int run(const Options& options, const Console& console) {
+    std::optional<EarlierOutput> earlier;
+    DoneInputs done;
+    if (options.skipDone) {
+        try {
+            const auto& settings = options.settings;
+            earlier.emplace(*options.skipDone, console.descriptor, console.err);
+            done =
+                earlier->read({settings.sensitivity, settings.coelution, settings.heightCriteria}, version());
+        } catch (const std::runtime_error& error) {
+            console.err << error.what() << '\n';
+            return wrongUsage;
+        }
+    }
     SideFile report(options.report);
     if (!report.check(console.err)) {
         return wrongUsage;
@@ -133,7 +157,7 @@ int run(const Options& options, const Console& console) {
     if (!machineLearning.check(console.err)) {
         return wrongUsage;
     }
-    Job job(options, console);
+    Job job(options, console, std::move(done));
     job.addOutput(formattedOutput(options.format, console.out, console.terminal));
     if (report.wanted()) {
         job.addOutput(reportOutput(options.settings, report.stream()));

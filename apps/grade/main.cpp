@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
         return parsed.status;
     }
     std::ios::sync_with_stdio(false);
-    const grade::Console console{std::cin, std::cout, std::cerr, terminalOf(STDOUT_FILENO),
-                                 isatty(STDERR_FILENO) != 0};
+    const grade::Console console{
+        std::cin, std::cout, std::cerr, terminalOf(STDOUT_FILENO), isatty(STDERR_FILENO) != 0, STDOUT_FILENO};
     return grade::run(*parsed.options, console);
 }

@@ -41,11 +41,19 @@ void describe(CLI::App& app, Options& options) {
         ->capture_default_str();
     app.add_option("--format", options.format, "table, csv or json (one object a line)")
         ->transform(CLI::CheckedTransformer(formats, CLI::ignore_case).description("table|csv|json"));
-    app.add_option("--report", options.report, "write an HTML report with all curves to this file")
-        ->type_name("FILE");
-    app.add_option("--ml", options.machineLearning,
-                   "write curves and grades for machine learning to this file")
-        ->type_name("FILE");
+    auto* report =
+        app.add_option("--report", options.report, "write an HTML report with all curves to this file")
+            ->type_name("FILE");
+    auto* machineLearning = app.add_option("--ml", options.machineLearning,
+                                           "write curves and grades for machine learning to this file")
+                                ->type_name("FILE");
+    app.add_option(
+           "--skip-done", options.skipDone,
+           "leave out files whose bytes were graded with these settings and this version in FILE, the "
+           "JSON lines of an earlier run; output may be appended to FILE")
+        ->type_name("FILE")
+        ->excludes(report)
+        ->excludes(machineLearning);
     app.add_flag_callback(
         "-0,--null", [&options] { options.listedPathEnd = PathEnd::zero; },
         "paths on standard input end in a zero byte, as find -print0 writes them");
@@ -72,6 +80,9 @@ ParsedCommandLine parseCommandLine(int argc, const char* const* argv, std::ostre
     describe(app, options);
     try {
         app.parse(argc, argv);
+        if (options.skipDone && options.format != Format::json) {
+            throw CLI::ValidationError("--skip-done", "needs --format json");
+        }
     } catch (const CLI::ParseError& error) {
         return {std::nullopt, app.exit(error, out, err) == 0 ? 0 : wrongUsage};
     }

@@ -18,6 +18,7 @@ struct Options {
     Format format = Format::table;
     std::optional<std::string> report;          ///< file of the HTML report
     std::optional<std::string> machineLearning; ///< file of the matrix and labels
+    std::optional<std::string> skipDone;        ///< file of an earlier run's JSON lines
     std::vector<std::string> paths;             ///< at least one
     PathEnd listedPathEnd = PathEnd::line;      ///< in standard input, where a path is "-"
 };

@@ -1,5 +1,6 @@
 #include "samplerecord.h"
 
+#include "gradereport/jsonlinereader.h"
 #include "gradereport/jsonlines.h"
 
 #include <rapidjson/document.h>
@@ -67,4 +68,59 @@ TEST(JsonLines, hostile_text_and_numbers_still_give_one_valid_line) {
     EXPECT_TRUE(object["peaks"][0]["y"].IsNull());
     EXPECT_EQ(object["peaks"][1]["x"].GetDouble(), 70.1);
     EXPECT_STREQ(object["warnings"][0].GetString(), "\uFFFD\uFFFD");
+}
+
+TEST(JsonLineReader, what_was_written_reads_back_to_the_same_bits) {
+    GradeRecord record = sampleRecord();
+    record.settings = {0.1 + 0.2, 1e-17, 123456789.123456789};
+    record.file = "\xff\"\n\xc3\xa9.S00";
+    const GradeLine read = readJsonLine(lineOf(record));
+    EXPECT_EQ(read.kind, LineKind::grade);
+    EXPECT_EQ(read.sha256, record.sha256);
+    EXPECT_EQ(read.settings.sensitivity, record.settings.sensitivity);
+    EXPECT_EQ(read.settings.coelution, record.settings.coelution);
+    EXPECT_EQ(read.settings.height, record.settings.height);
+    EXPECT_EQ(read.version, "1.2");
+
+    std::ostringstream failed;
+    JsonLines(failed, "1.2").addFailure({"a.S00", "a.S00: there is no such file."});
+    EXPECT_EQ(readJsonLine(failed.str()).kind, LineKind::failure);
+}
+
+TEST(JsonLineReader, anything_else_is_told_from_a_grade) {
+    const std::string line = lineOf(sampleRecord());
+    const std::string whole = line.substr(0, line.size() - 1);
+    const auto with = [&whole](const std::string& from, const std::string& to) {
+        std::string changed = whole;
+        return changed.replace(changed.find(from), from.size(), to);
+    };
+    ASSERT_EQ(readJsonLine(whole).kind, LineKind::grade);
+    EXPECT_EQ(readJsonLine(with("\"peaks\":", "\"later\":{\"deep\":[null]},\"peaks\":")).kind,
+              LineKind::grade);
+    const std::string wrong[] = {
+        "",
+        "null",
+        "{}",
+        whole + whole,
+        whole + std::string("\0x", 2),
+        std::string(1000000, '['),
+        with("\"sha256\":\"", "\"sha256\":\"0"),
+        with(sampleRecord().sha256, std::string(64, 'G')),
+        with("\"sensitivity\":0.5", "\"sensitivity\":null"),
+        with("\"height\":2", "\"height\":1e999"),
+        with("\"settings\":{", "\"settings\":[],\"x\":{"),
+        with("\"quality\":2", "\"quality\":\"2\""),
+        with("\"version\":\"1.2\"", "\"version\":1.2"),
+        with("\"file\":\"runs", "\"file\":\"\xff"),
+    };
+    for (const std::string& text : wrong) {
+        EXPECT_EQ(readJsonLine(text).kind, LineKind::other) << text.substr(0, 400);
+    }
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_EQ(readJsonLine(whole.substr(0, length)).kind, LineKind::other);
+        EXPECT_TRUE(beginsJsonLine(whole.substr(0, length)));
+    }
+    for (const std::string& text : {with("{\"file", "[\"file"), std::string("x"), whole + '\0', line + "{"}) {
+        EXPECT_FALSE(beginsJsonLine(text)) << text;
+    }
 }
