@@ -47,7 +47,7 @@ TEST_F(Cluster, several_processes_give_the_bytes_of_one) {
 
 TEST_F(Cluster, a_shard_that_was_killed_is_repeated_without_the_rest) {
     const std::string grade = R"sh(
-        parallel --keep-order 'vorn-grade --format json --skip-done {.}.jsonl - <{} >>{.}.jsonl' ::: shard-*.paths
+        parallel 'vorn-grade --format json --skip-done {.}.jsonl - <{} >>{.}.jsonl' ::: shard-*.paths
         status=$?)sh";
     const auto killed = run(R"sh(
         mkfifo fifo; vorn-grade --format json - <fifo >shard-0001.jsonl & grader=$!
@@ -59,10 +59,10 @@ TEST_F(Cluster, a_shard_that_was_killed_is_repeated_without_the_rest) {
     EXPECT_NE(killed.err.find("Left out as done: 1 file that shard-0001.jsonl"), std::string::npos)
         << killed.err;
 
-    const auto merged = run("cat shard-*.jsonl | LC_ALL=C sort -u; cat shard-*.jsonl | wc -l >lines");
+    const auto merged = run("LC_ALL=C sort -u shard-*.jsonl; cat shard-*.jsonl | wc -l >lines");
     EXPECT_EQ(merged.out, run("LC_ALL=C sort -u whole").out);
     const auto again = run(grade + R"sh(
-        [ "$status" -eq 1 ] && cat shard-*.jsonl | LC_ALL=C sort -u
+        [ "$status" -eq 1 ] && LC_ALL=C sort -u shard-*.jsonl
         echo $(($(cat shard-*.jsonl | wc -l) - $(cat lines))) >&2)sh");
     EXPECT_EQ(again.out, merged.out);
     EXPECT_EQ(again.err.substr(again.err.size() - 3), "\n1\n") << "only the failure came again";
