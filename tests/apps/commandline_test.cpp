@@ -58,6 +58,9 @@ TEST(CommandLine, wrong_usage_ends_with_2_and_a_text_on_the_error_stream) {
         {"--height", "", "a"},
         {"--format", "xml", "a"},
         {"--report"},
+        {"--skip-done", "done", "a"},
+        {"--skip-done", "done", "--format", "json", "--report", "r.html", "a"},
+        {"--skip-done", "done", "--format", "json", "--ml", "m.txt", "a"},
     };
     for (const auto& arguments : wrong) {
         const Parsed parsed = parse(arguments);
