@@ -1,5 +1,6 @@
 #include "DatabaseServer.h"
 
+#include "MessageLoggerInterface.h"
 #include "PostgresDialect.h"
 #include "SqlConnection.h"
 #include "SqlTransaction.h"
@@ -15,6 +16,25 @@ namespace {
 
 QString translated(const char* english, const char* french) {
     return QCoreApplication::translate("TechDB::DatabaseServer", english, french);
+}
+
+/// Who may only read is told before a day's work waits for an import.
+void warnReader(SqlConnection& connection) {
+    bool mayWrite = false;
+    connection.select(QStringLiteral("SELECT has_table_privilege('analyses', 'INSERT')"
+                                     " AND has_table_privilege('datasets', 'INSERT')"
+                                     " AND NOT pg_is_in_recovery()"),
+                      {}, [&mayWrite](const QSqlQuery& row) { mayWrite = row.value(0).toBool(); });
+    if (mayWrite) {
+        return;
+    }
+    MessageLoggerInterface::Warning(
+        translated(
+            "You may read the %2 <b>%1</b>, but not change it: nothing can be imported, renamed or "
+            "deleted. Ask who keeps the server for the right to write.",
+            "Vous pouvez lire le %2 <b>%1</b>, mais pas le modifier : rien ne peut être importé, renommé "
+            "ou supprimé. Demandez le droit d'écrire à qui gère le serveur.")
+            .arg(connection.shown().toHtmlEscaped(), nameOf(connection.kind())));
 }
 
 } // namespace
@@ -45,6 +65,7 @@ std::unique_ptr<SqlConnection> open(const QString& address, const DatabaseSchema
         schema.bringForward(*connection);
     }
     schema.probe(*connection);
+    warnReader(*connection);
     return connection;
 }
 

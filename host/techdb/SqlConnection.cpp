@@ -56,13 +56,9 @@ void SqlConnection::open() {
 }
 
 void SqlConnection::close() {
-    if (!m_isCut) {
-        m_statements.clear(); // each tells the other end, which must still be there
-        m_database.close();
-    }
     m_database = QSqlDatabase();
     QSqlDatabase::removeDatabase(m_name);
-    m_statements.clear();
+    m_statements.clear(); // last: each would tell the other end, which may be gone
 }
 
 void SqlConnection::reopenIfCut() {

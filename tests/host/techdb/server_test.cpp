@@ -1,4 +1,5 @@
 #include "ExpectedWarning.h"
+#include "MessageCollector.h"
 #include "ProjectFixture.h"
 
 #include "ServerAddress.h"
@@ -148,8 +149,11 @@ TEST_F(Server, who_may_only_read_sees_everything_and_is_told_what_is_missing) {
     const QString reader = "reader_" + QUuid::createUuid().toString(QUuid::Id128);
     ServerDatabase::onServer("CREATE ROLE " + reader + " LOGIN");
     sql({"GRANT SELECT ON ALL TABLES IN SCHEMA public TO " + reader});
+    MessageCollector log;
+    MessageLoggerInterface::setDefaultLogger(&log);
     {
         const auto theirs = TDatabase::open(server->address(reader));
+        EXPECT_TRUE(says(log.messages(MessageLevel::Warning).join("|").toStdString(), "but not change it"));
         EXPECT_TRUE(theirs->curve(key).equals(ramp()));
         EXPECT_TRUE(theirs->problems().isEmpty());
         EXPECT_TRUE(says(failure([&] { theirs->removeAnalysis(key); }), "not change it"));
