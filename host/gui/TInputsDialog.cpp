@@ -31,6 +31,10 @@ void TInputsDialog::addTextInput(const QString& key, const QString& label, const
     input->selectAll();
     m_form->addRow(label, input);
     m_inputs.insert(key, input);
+    setTabOrder(input, m_buttons);
+    if (m_inputs.size() == 1) {
+        input->setFocus(); // not the button that stands ready while the other one waits for a text
+    }
     connect(input, &QLineEdit::textChanged, this, &TInputsDialog::checkTexts);
     checkTexts();
 }

@@ -31,6 +31,10 @@ TEST(InputsDialog, gives_the_texts_back_by_key) {
 
     QTimer::singleShot(0, &dialog, &QDialog::reject);
     EXPECT_EQ(dialog.exec(), 0);
+
+    TInputsDialog empty("Address", nullptr);
+    empty.addTextInput("address", "Address", {}, QLineEdit::Normal, "host");
+    EXPECT_EQ(empty.focusWidget(), empty.findChild<QLineEdit*>()) << "what is typed arrives";
 }
 
 TEST(ProgressBar, shows_steps_without_running_the_event_loop) {
