@@ -82,6 +82,14 @@ protected:
         return names;
     }
 
+    static QString joined(const TechDB::ListedNames& list) {
+        QStringList names;
+        for (const TechDB::ListedName& one : list) {
+            names.append(one.name);
+        }
+        return names.join(' ');
+    }
+
     QTemporaryDir folder;
     std::unique_ptr<TechDB::TDatabase> database;
 };
