@@ -3,6 +3,8 @@
 #include "TDatabase.h"
 #include "VKError.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 #include <limits>
 
@@ -115,6 +117,7 @@ void ProjectRowsModel::takeSection(qint64 key, const Page& page, const Reading& 
         merge(**found, page, reading);
         return;
     }
+    const QScopedValueRollback<bool> removing(m_isRemoving, true);
     beginRemoveRows({}, (*found)->row, (*found)->row);
     m_root.children.erase(found);
     m_root.number();
@@ -195,6 +198,7 @@ void ProjectRowsModel::removeMissing(ProjectNode& list, const QHash<qint64, int>
         --kept;
     }
     if (kept < list.children.size()) {
+        const QScopedValueRollback<bool> removing(m_isRemoving, true);
         beginRemoveRows(indexOf(list), static_cast<int>(kept), static_cast<int>(list.children.size()) - 1);
         list.truncate(kept);
         endRemoveRows();
@@ -234,7 +238,7 @@ void ProjectRowsModel::readRest(const QModelIndex& list) {
 
 void ProjectRowsModel::append(const QModelIndex& list,
                               Page (ProjectPages::*reader)(const ProjectNode&) const) {
-    if (m_project == nullptr || !node(list).isList() || node(list).isWhole) {
+    if (m_project == nullptr || m_isRemoving || !node(list).isList() || node(list).isWhole) {
         return;
     }
     ProjectNode& longer = nodeOf(list);

@@ -93,4 +93,6 @@ private:
     ProjectNode m_noDatasets;
     ProjectNode m_noAnalyses;
     bool m_isEmpty = true;
+    /// While rows are about to go: those who hear of it must not read on.
+    bool m_isRemoving = false;
 };
