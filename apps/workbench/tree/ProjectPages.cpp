@@ -17,7 +17,7 @@ using TechDB::NameRange;
 namespace {
 
 /// From here on, reading a list to its end is quicker than looking for each of its rows.
-constexpr int manyHeld = 1000;
+constexpr int manyHeld = 10'000;
 
 NamePlace end(const ListedNames& names) {
     return names.isEmpty() ? NamePlace() : names.last().place;
@@ -27,6 +27,16 @@ NameRange behind(const ProjectNode& list) {
     NameRange range;
     range.after = list.children.empty() ? NamePlace() : list.children.back()->place();
     return range;
+}
+
+QVector<qint64> notAmong(const ListedNames& names, QVector<qint64> keys) {
+    QSet<qint64> present;
+    for (const ListedName& name : names) {
+        present.insert(name.place.key);
+    }
+    const auto isPresent = [&present](qint64 key) { return present.contains(key); };
+    keys.erase(std::remove_if(keys.begin(), keys.end(), isPresent), keys.end());
+    return keys;
 }
 
 /// An object that was renamed between two readings may be in both.
@@ -85,15 +95,16 @@ ProjectPages::Page ProjectPages::again(const ProjectNode& list, const QString& n
 
 ProjectPages::Page ProjectPages::withHeld(const ProjectNode& list, const QString& name,
                                           const QVector<qint64>& held, Page page) const {
-    if (!page.isLast && held.size() > manyHeld) {
+    const QVector<qint64> missing = page.isLast ? QVector<qint64>() : notAmong(page.names, held);
+    if (missing.size() > manyHeld) {
         NameRange rest;
         rest.after = end(page.names);
         page = {page.names + read(list, name, rest), true};
     }
     NamePlace furthest;
-    for (int i = 0; i < held.size() && !page.isLast; ++i) {
+    for (int i = 0; i < missing.size() && !page.isLast; ++i) {
         NameRange one;
-        one.only = held.at(i);
+        one.only = missing.at(i);
         furthest = std::max(furthest, end(read(list, name, one)));
     }
     if (end(page.names) < furthest) {

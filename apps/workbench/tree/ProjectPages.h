@@ -15,7 +15,7 @@ struct ProjectNode;
 class ProjectPages {
 public:
     /// Rows that are read at once: more than a screen shows.
-    static constexpr int pageSize = 256;
+    static constexpr int pageSize = 128;
 
     struct Page {
         TechDB::ListedNames names;

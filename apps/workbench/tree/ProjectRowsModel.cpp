@@ -4,6 +4,7 @@
 #include "VKError.h"
 
 #include <QScopedValueRollback>
+#include <QSet>
 
 #include <algorithm>
 #include <limits>
@@ -18,6 +19,16 @@ ListedName nameOfSection(qint64 key) {
     ListedName name;
     name.place.key = key;
     return name;
+}
+
+/// What another window has renamed may come once more, until the list is read again.
+void removePresent(ListedNames& names, const ProjectNode& list) {
+    QSet<qint64> present;
+    for (const auto& child : list.children) {
+        present.insert(child->key);
+    }
+    const auto isPresent = [&present](const ListedName& name) { return present.contains(name.place.key); };
+    names.erase(std::remove_if(names.begin(), names.end(), isPresent), names.end());
 }
 
 bool holdsNothing(const TechDB::TDatabase& project) {
@@ -248,6 +259,7 @@ void ProjectRowsModel::append(const QModelIndex& list,
     } catch (const VKError& error) {
         VKError::dispatchError(error); // once: the list counts as whole then
     }
+    removePresent(page.names, longer);
     longer.isRead = true;
     longer.isWhole = page.isLast;
     if (!page.names.isEmpty()) {

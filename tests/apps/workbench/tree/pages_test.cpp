@@ -117,4 +117,17 @@ TEST_F(PagesTest, changes_elsewhere_leave_as_much_read_and_what_is_selected_sele
     EXPECT_LT(read(1), count);
 }
 
+TEST_F(PagesTest, what_another_window_moves_while_pages_are_read_is_there_once) {
+    QAbstractItemModelTester tester(&shown(), QAbstractItemModelTester::FailureReportingMode::Warning);
+    const auto other = TechDB::TDatabase::open(path());
+    other->renameAnalysis(other->getAnalysis("a 5")->key(), QStringLiteral("a %1 b").arg(page + 1));
+    other->removeAnalysis(other->getAnalysis("a 6")->key());
+    EXPECT_EQ(names().filter("a ").size(), count);
+    tree.refresh();
+    QStringList found = names().filter(".a ");
+    EXPECT_EQ(found.size(), count - 1);
+    EXPECT_EQ(found.removeDuplicates(), 0);
+    EXPECT_EQ(found.at(page - 1), QStringLiteral(".a %1 b").arg(page + 1));
+}
+
 } // namespace
