@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Measures what the workbench promises beside the engine's own update, in one run.
+"""Measures what the workbench promises, each ratio in one run: beside the engine's own update, and with many
+stored analyses beside few.
 
     benchmarks/desktop_ratios.py [--build build/bench]
 
@@ -23,7 +24,7 @@ def figures(program):
          "--benchmark_enable_random_interleaving=true",
          "--benchmark_format=json"],
         check=True, capture_output=True, text=True).stdout
-    return {run["run_name"].split("/")[0]: run for run in json.loads(output)["benchmarks"]
+    return {run["run_name"].split("/iterations")[0]: run for run in json.loads(output)["benchmarks"]
             if run["aggregate_name"] == "median"}
 
 
@@ -49,6 +50,22 @@ def main():
     at_most("200 viewers built and shown, s", times["show_200_viewers"] / 1000, 1)
     at_most("memory of a stored analysis over its curve of 10,112 bytes",
             runs["memory_per_analysis"]["bytes_each"] / 10112, 0.1)
+
+    sizes = figures(options.build / "benchmarks/size_benchmark")
+    large = {name.split("/")[0]: run for name, run in sizes.items() if name.endswith("/100000")}
+    small = {name.split("/")[0]: run for name, run in sizes.items() if name.endswith("/1000")}
+    for name in large:
+        print("%-20s %10.1f ms with 1,000, %10.1f ms with 100,000"
+              % (name, small[name]["cpu_time"], large[name]["cpu_time"]))
+    at_most("opening a project of 100,000 analyses over one of 1,000",
+            large["open"]["cpu_time"] / small["open"]["cpu_time"], 1.5)
+    for name, text in (("find_name", "a name among 100,000, ms"), ("find_nothing", "a text that none of them holds, ms"),
+                       ("find_all", "a text that all of them hold, ms")):
+        at_most("finding " + text, large[name]["cpu_time"], 100)
+    at_most("storing 1,000 analyses more, 100,000 over 1,000",
+            large["store_1000"]["cpu_time"] / small["store_1000"]["cpu_time"], 2)
+    at_most("memory of the open project, 100,000 over 1,000, more MiB",
+            (large["memory"]["bytes"] - small["memory"]["bytes"]) / 2 ** 20, 4)
     return 1 if missed else 0
 
 

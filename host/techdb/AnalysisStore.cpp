@@ -1,6 +1,8 @@
 #include "AnalysisStore.h"
 
 #include "CurveBlob.h"
+#include "NameText.h"
+#include "NaturalOrder.h"
 #include "NumberedName.h"
 #include "SqlConnection.h"
 #include "SqlError.h"
@@ -12,6 +14,9 @@
 namespace TechDB {
 
 namespace {
+
+/// In one statement, which serves all numbers of keys.
+constexpr int keysAtOnce = 64;
 
 QString translated(const char* english, const char* french) {
     return QCoreApplication::translate("TechDB::AnalysisStore", english, french);
@@ -72,6 +77,23 @@ std::optional<AnalysisInfo> AnalysisStore::byKey(qint64 key) const {
     return found;
 }
 
+QVector<AnalysisInfo> AnalysisStore::byKeys(const QVector<qint64>& keys) const {
+    static const QString statement =
+        QStringLiteral("SELECT id, name, analysis_type, created, point_count FROM analyses WHERE id IN (?%1)")
+            .arg(QStringLiteral(", ?").repeated(keysAtOnce - 1));
+    QVector<AnalysisInfo> list;
+    for (int first = 0; first < keys.size(); first += keysAtOnce) {
+        SqlConnection::Values values;
+        for (int i = 0; i < keysAtOnce; ++i) {
+            values.append(
+                keys.at(qMin(first + i, keys.size() - 1))); // the last once more where there are fewer
+        }
+        m_connection.select(statement, values,
+                            [&list](const QSqlQuery& row) { list.append(analysisOf(row)); });
+    }
+    return list;
+}
+
 QVector<AnalysisInfo> AnalysisStore::family(const QString& name) const {
     const QString base = NumberedName::base(name);
     QVector<AnalysisInfo> list;
@@ -108,9 +130,11 @@ qint64 AnalysisStore::addInfo(const QString& name, const QString& analysisType, 
     checkName(name);
     try {
         return m_connection.insert(
-            QStringLiteral(
-                "INSERT INTO analyses (name, analysis_type, created, point_count) VALUES (?, ?, ?, ?)"),
-            {name, SqlConnection::text(analysisType), StoredInstant::now(), pointCount});
+            QStringLiteral("INSERT INTO analyses"
+                           " (name, sort_key, search_name, analysis_type, created, point_count)"
+                           " VALUES (?, ?, ?, ?, ?, ?)"),
+            {name, NaturalOrder::key(name), NameText::folded(name), SqlConnection::text(analysisType),
+             StoredInstant::now(), pointCount});
     } catch (const SqlError& error) {
         if (error.failure() == SqlFailure::NameTaken) {
             throwTaken(name);
@@ -122,8 +146,9 @@ qint64 AnalysisStore::addInfo(const QString& name, const QString& analysisType, 
 void AnalysisStore::rename(qint64 key, const QString& name) {
     checkName(name);
     try {
-        if (m_connection.execute(QStringLiteral("UPDATE analyses SET name = ? WHERE id = ?"), {name, key}) ==
-            0) {
+        if (m_connection.execute(
+                QStringLiteral("UPDATE analyses SET name = ?, sort_key = ?, search_name = ? WHERE id = ?"),
+                {name, NaturalOrder::key(name), NameText::folded(name), key}) == 0) {
             throwGone();
         }
     } catch (const SqlError& error) {

@@ -22,6 +22,8 @@ public:
     QVector<AnalysisInfo> all() const;
     std::optional<AnalysisInfo> byName(const QString& name) const;
     std::optional<AnalysisInfo> byKey(qint64 key) const;
+    /// Those that are there, in no order.
+    QVector<AnalysisInfo> byKeys(const QVector<qint64>& keys) const;
     /// Those of one name, with and without a number behind it (`NumberedName`).
     QVector<AnalysisInfo> family(const QString& name) const;
 

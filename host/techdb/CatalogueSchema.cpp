@@ -66,7 +66,7 @@ QStringList probes() {
 
 } // namespace
 
-CatalogueSchema::CatalogueSchema(const QStringList& creation, const QVector<QStringList>& migrations)
+CatalogueSchema::CatalogueSchema(const QStringList& creation, const QVector<SchemaStep>& migrations)
     : DatabaseSchema(DatabaseKind::Catalogue, creation, migrations, probes()) {}
 
 const CatalogueSchema& CatalogueSchema::current() {

@@ -35,7 +35,7 @@ QString translated(const char* english, const char* french) {
 
 } // namespace
 
-DatabaseSchema::DatabaseSchema(DatabaseKind kind, QStringList creation, QVector<QStringList> migrations,
+DatabaseSchema::DatabaseSchema(DatabaseKind kind, QStringList creation, QVector<SchemaStep> migrations,
                                QStringList probes)
     : m_kind(kind), m_creation(std::move(creation)), m_migrations(std::move(migrations)),
       m_probes(std::move(probes)) {}
@@ -120,9 +120,13 @@ void DatabaseSchema::bringForward(SqlConnection& connection) const {
 }
 
 void DatabaseSchema::migrate(SqlConnection& connection, int from) const {
-    for (int step = from; step < version(); ++step) {
-        for (const QString& statement : m_migrations.at(step - 1)) {
+    for (int present = from; present < version(); ++present) {
+        const SchemaStep& step = m_migrations.at(present - 1);
+        for (const QString& statement : step.statements) {
             connection.run(statement);
+        }
+        if (step.rest) {
+            step.rest(connection);
         }
     }
     connection.run(QStringLiteral("UPDATE %1 SET schema_version = ? WHERE only_row = 1").arg(identity()),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DatabaseKind.h"
+#include "SchemaStep.h"
 
 #include <QStringList>
 #include <QVector>
@@ -16,9 +17,9 @@ class SqlConnection;
 /// A plain value.
 class DatabaseSchema {
 public:
-    /// `migrations` holds, at place i, the statements that lead from version i + 1 to i + 2; there is one
-    /// fewer than versions. `probes` are statements that fail if a table or a column is not there.
-    DatabaseSchema(DatabaseKind kind, QStringList creation, QVector<QStringList> migrations,
+    /// `migrations` holds, at place i, the step that leads from version i + 1 to i + 2; there is one fewer
+    /// than versions. `probes` are statements that fail if a table or a column is not there.
+    DatabaseSchema(DatabaseKind kind, QStringList creation, QVector<SchemaStep> migrations,
                    QStringList probes);
 
     DatabaseKind kind() const { return m_kind; }
@@ -51,7 +52,7 @@ private:
 
     DatabaseKind m_kind;
     QStringList m_creation;
-    QVector<QStringList> m_migrations;
+    QVector<SchemaStep> m_migrations;
     QStringList m_probes;
 };
 

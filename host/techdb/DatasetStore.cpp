@@ -1,5 +1,7 @@
 #include "DatasetStore.h"
 
+#include "NameText.h"
+#include "NaturalOrder.h"
 #include "SqlConnection.h"
 #include "SqlError.h"
 #include "StoredInstant.h"
@@ -83,8 +85,9 @@ std::optional<DatasetInfo> DatasetStore::byKey(qint64 key) const {
 qint64 DatasetStore::add(const QString& name) {
     checkName(name);
     try {
-        return m_connection.insert(QStringLiteral("INSERT INTO datasets (name, created) VALUES (?, ?)"),
-                                   {name, StoredInstant::now()});
+        return m_connection.insert(
+            QStringLiteral("INSERT INTO datasets (name, sort_key, search_name, created) VALUES (?, ?, ?, ?)"),
+            {name, NaturalOrder::key(name), NameText::folded(name), StoredInstant::now()});
     } catch (const SqlError& error) {
         if (error.failure() == SqlFailure::NameTaken) {
             throwDatasetTaken(name);
@@ -96,8 +99,9 @@ qint64 DatasetStore::add(const QString& name) {
 void DatasetStore::rename(qint64 key, const QString& name) {
     checkName(name);
     try {
-        if (m_connection.execute(QStringLiteral("UPDATE datasets SET name = ? WHERE id = ?"), {name, key}) ==
-            0) {
+        if (m_connection.execute(
+                QStringLiteral("UPDATE datasets SET name = ?, sort_key = ?, search_name = ? WHERE id = ?"),
+                {name, NaturalOrder::key(name), NameText::folded(name), key}) == 0) {
             throwGone();
         }
     } catch (const SqlError& error) {
@@ -150,8 +154,10 @@ qint64 DatasetStore::datasetOf(qint64 sample) const {
 qint64 DatasetStore::addSample(qint64 dataset, const QString& name) {
     checkName(name);
     try {
-        return m_connection.insert(QStringLiteral("INSERT INTO samples (dataset_id, name) VALUES (?, ?)"),
-                                   {dataset, name});
+        return m_connection.insert(
+            QStringLiteral(
+                "INSERT INTO samples (dataset_id, name, sort_key, search_name) VALUES (?, ?, ?, ?)"),
+            {dataset, name, NaturalOrder::key(name), NameText::folded(name)});
     } catch (const SqlError& error) {
         if (error.failure() == SqlFailure::NameTaken) {
             throwTaken(translated("The dataset holds a sample named <b>%1</b> already.",

@@ -79,11 +79,11 @@ const QVector<ProjectCopy::Group>& ProjectCopy::groups() {
                      QStringLiteral("sample_id"), QStringLiteral("sample_id, position")};
     };
     static const QVector<Group> all{
-        {{{"analyses", "id, name, analysis_type, created, point_count", "id", "id"},
+        {{{"analyses", "id, name, analysis_type, created, point_count, sort_key, search_name", "id", "id"},
           {"curves", "analysis_id, points", "analysis_id", "analysis_id"}},
          100},
-        {{{"datasets", "id, name, created", "id", "id"}}, 1000},
-        {{{"samples", "id, dataset_id, name", "id", "id"},
+        {{{"datasets", "id, name, created, sort_key, search_name", "id", "id"}}, 1000},
+        {{{"samples", "id, dataset_id, name, sort_key, search_name", "id", "id"},
           {"sample_properties", "sample_id, position, name, value, unit, comment", "sample_id",
            "sample_id, position"},
           named("sample_rows"),

@@ -1,5 +1,9 @@
 #include "ProjectSchema.h"
 
+#include "NameText.h"
+#include "NaturalOrder.h"
+#include "SqlConnection.h"
+
 namespace TechDB {
 
 namespace {
@@ -10,7 +14,7 @@ QStringList firstVersion() {
     return {
         QStringLiteral("CREATE TABLE analyses ("
                        " id {identity},"
-                       " name TEXT {bytewise} NOT NULL UNIQUE,"
+                       " name {bytewise} NOT NULL UNIQUE,"
                        " analysis_type TEXT NOT NULL,"
                        " created TEXT NOT NULL,"
                        " point_count INTEGER NOT NULL CHECK (point_count >= 2))"),
@@ -19,12 +23,12 @@ QStringList firstVersion() {
                        " points {blob} NOT NULL)"),
         QStringLiteral("CREATE TABLE datasets ("
                        " id {identity},"
-                       " name TEXT NOT NULL UNIQUE,"
+                       " name {bytewise} NOT NULL UNIQUE,"
                        " created TEXT NOT NULL)"),
         QStringLiteral("CREATE TABLE samples ("
                        " id {identity},"
                        " dataset_id BIGINT NOT NULL REFERENCES datasets (id) ON DELETE CASCADE,"
-                       " name TEXT NOT NULL,"
+                       " name {bytewise} NOT NULL,"
                        " UNIQUE (dataset_id, name))"),
         QStringLiteral("CREATE TABLE sample_properties ("
                        " sample_id BIGINT NOT NULL REFERENCES samples (id) ON DELETE CASCADE,"
@@ -64,12 +68,53 @@ QStringList firstVersion() {
     };
 }
 
+// Lists of names are read in their natural order page by page, and looked through: both on an index alone.
+QStringList secondVersion() {
+    QStringList statements;
+    for (const char* const table : {"analyses", "datasets", "samples"}) {
+        statements += QStringLiteral("ALTER TABLE %1 ADD COLUMN sort_key {bytewise} NOT NULL DEFAULT ''")
+                          .arg(QLatin1String(table));
+        statements += QStringLiteral("ALTER TABLE %1 ADD COLUMN search_name {bytewise} NOT NULL DEFAULT ''")
+                          .arg(QLatin1String(table));
+    }
+    return statements +
+           QStringList{
+               QStringLiteral("CREATE INDEX analyses_by_name ON analyses (sort_key, id, search_name)"),
+               QStringLiteral("CREATE INDEX datasets_by_name ON datasets (sort_key, id, search_name)"),
+               QStringLiteral("CREATE INDEX samples_by_name"
+                              " ON samples (dataset_id, sort_key, id, search_name)"),
+           };
+}
+
+void writeKeys(SqlConnection& connection, const QString& table) {
+    QVector<QPair<qint64, QString>> names;
+    connection.select(QStringLiteral("SELECT id, name FROM %1").arg(table), {},
+                      [&names](const QSqlQuery& row) {
+                          names.append({row.value(0).toLongLong(), row.value(1).toString()});
+                      });
+    const QString statement =
+        QStringLiteral("UPDATE %1 SET sort_key = ?, search_name = ? WHERE id = ?").arg(table);
+    for (const auto& [key, name] : qAsConst(names)) {
+        connection.execute(statement, {SqlConnection::text(NaturalOrder::key(name)),
+                                       SqlConnection::text(NameText::folded(name)), key});
+    }
+}
+
+SchemaStep toSecondVersion() {
+    return {secondVersion(), [](SqlConnection& connection) {
+                for (const char* const table : {"analyses", "datasets", "samples"}) {
+                    writeKeys(connection, QLatin1String(table));
+                }
+            }};
+}
+
 QStringList probes() {
     return {
-        QStringLiteral("SELECT id, name, analysis_type, created, point_count FROM analyses LIMIT 0"),
+        QStringLiteral("SELECT id, name, analysis_type, created, point_count, sort_key, search_name"
+                       " FROM analyses LIMIT 0"),
         QStringLiteral("SELECT analysis_id, points FROM curves LIMIT 0"),
-        QStringLiteral("SELECT id, name, created FROM datasets LIMIT 0"),
-        QStringLiteral("SELECT id, dataset_id, name FROM samples LIMIT 0"),
+        QStringLiteral("SELECT id, name, created, sort_key, search_name FROM datasets LIMIT 0"),
+        QStringLiteral("SELECT id, dataset_id, name, sort_key, search_name FROM samples LIMIT 0"),
         QStringLiteral(
             "SELECT sample_id, position, name, value, unit, comment FROM sample_properties LIMIT 0"),
         QStringLiteral("SELECT sample_id, position, name FROM sample_rows LIMIT 0"),
@@ -81,11 +126,11 @@ QStringList probes() {
 
 } // namespace
 
-ProjectSchema::ProjectSchema(const QStringList& creation, const QVector<QStringList>& migrations)
+ProjectSchema::ProjectSchema(const QStringList& creation, const QVector<SchemaStep>& migrations)
     : DatabaseSchema(DatabaseKind::Project, creation, migrations, probes()) {}
 
 const ProjectSchema& ProjectSchema::current() {
-    static const ProjectSchema schema(firstVersion(), {});
+    static const ProjectSchema schema(firstVersion() + secondVersion(), {toSecondVersion()});
     return schema;
 }
 

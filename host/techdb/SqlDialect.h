@@ -26,8 +26,8 @@ enum class SqlFailure {
 /// All that differs between one database engine and another. Everything else is SQL that they share.
 ///
 /// Statements may hold these words in braces: {identity} the type of a key that the engine gives and never
-/// gives twice, {double} an 8-byte number, {blob} bytes, {bytewise} what follows the type of a text that is
-/// compared byte by byte, {clustered} what follows a table whose rows lie in the order of its primary key.
+/// gives twice, {double} an 8-byte number, {blob} bytes, {bytewise} a text whose order is that of its bytes
+/// in UTF-8, {clustered} what follows a table whose rows lie in the order of its primary key.
 class SqlDialect {
 public:
     SqlDialect() = default;

@@ -45,7 +45,7 @@ QString SqliteDialect::adapted(const QString& statement) const {
     text.replace(QLatin1String("{identity}"), QLatin1String("INTEGER PRIMARY KEY AUTOINCREMENT"));
     text.replace(QLatin1String("{double}"), QLatin1String("DOUBLE PRECISION"));
     text.replace(QLatin1String("{blob}"), QLatin1String("BLOB"));
-    text.remove(QLatin1String(" {bytewise}"));
+    text.replace(QLatin1String("{bytewise}"), QLatin1String("TEXT"));
     text.replace(QLatin1String("{clustered}"), QLatin1String("WITHOUT ROWID"));
     return text;
 }

@@ -7,6 +7,7 @@
 #include "DatasetStore.h"
 #include "ForeignCommits.h"
 #include "MessageLoggerInterface.h"
+#include "NameLists.h"
 #include "NumberedName.h"
 #include "ObjectPool.h"
 #include "ProjectCopy.h"
@@ -24,13 +25,6 @@
 #include <utility>
 
 namespace TechDB {
-
-namespace {
-
-/// From here on, reading all analyses is quicker than asking for each.
-constexpr int manyKeys = 32;
-
-} // namespace
 
 std::unique_ptr<TDatabase> TDatabase::create(const QString& place) {
     const ProjectSchema& schema = ProjectSchema::current();
@@ -71,6 +65,18 @@ QString TDatabase::folder() const {
     return ServerAddress::isAddress(place) ? QString() : QFileInfo(place).absolutePath();
 }
 
+ListedNames TDatabase::analysisNames(const NameRange& range) const {
+    return NameLists(*m_connection).analyses(range);
+}
+
+ListedNames TDatabase::datasetNames(const NameRange& range) const {
+    return NameLists(*m_connection).datasets(range);
+}
+
+ListedNames TDatabase::sampleNames(qint64 well, const NameRange& range) const {
+    return NameLists(*m_connection).samples(well, range);
+}
+
 QVector<AnalysisInfo> TDatabase::analyses() const {
     return AnalysisStore(*m_connection).all();
 }
@@ -86,21 +92,15 @@ const VKObject2Analysis* TDatabase::analysisByKey(qint64 key) const {
 }
 
 QVector<const VKObject2Analysis*> TDatabase::analysesByKeys(const QVector<qint64>& keys) const {
+    QHash<qint64, const VKObject2Analysis*> stored;
+    const QVector<AnalysisInfo> infos = AnalysisStore(*m_connection).byKeys(keys);
+    for (const AnalysisInfo& info : infos) {
+        stored.insert(info.key, m_objects->analysis(info));
+    }
     QVector<const VKObject2Analysis*> found;
     found.reserve(keys.size());
-    if (keys.size() < manyKeys) {
-        for (const qint64 key : keys) {
-            found.append(analysisByKey(key));
-        }
-        return found;
-    }
-    QHash<qint64, const VKObject2Analysis*> all;
-    const QVector<AnalysisInfo> stored = analyses();
-    for (const AnalysisInfo& info : stored) {
-        all.insert(info.key, m_objects->analysis(info));
-    }
     for (const qint64 key : keys) {
-        found.append(all.value(key));
+        found.append(stored.value(key));
     }
     return found;
 }

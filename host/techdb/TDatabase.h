@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NameRange.h"
 #include "ObjectChange.h"
 #include "ProjectSchema.h"
 #include "SampleTable.h"
@@ -54,12 +55,17 @@ public:
     /// Made with the project and copied with its file.
     const QString& projectId() const { return m_projectId; }
 
+    /// What a list shows of the analyses, of the datasets and of the samples of one, in natural order.
+    ListedNames analysisNames(const NameRange& range) const;
+    ListedNames datasetNames(const NameRange& range) const;
+    ListedNames sampleNames(qint64 well, const NameRange& range) const;
+
     /// In the order of storing.
     QVector<AnalysisInfo> analyses() const;
     /// Null if there is none.
     virtual const VKObject2Analysis* getAnalysis(const QString& name) const;
     const VKObject2Analysis* analysisByKey(qint64 key) const;
-    /// In the order of the keys, null where there is none. For many keys in one look at the file.
+    /// In the order of the keys, null where there is none. Quicker than asking for each.
     QVector<const VKObject2Analysis*> analysesByKeys(const QVector<qint64>& keys) const;
     /// Refuses a curve that no module could work with (`TAnalysisData::whyUnusable`) and a name that is
     /// taken. The type is what the analysis was measured for.

@@ -1,14 +1,13 @@
 #include "ExpansionKeeper.h"
 
-#include "ProjectFilterModel.h"
-#include "ProjectNode.h"
+#include "ProjectRowsModel.h"
 
 #include <QScopedValueRollback>
 #include <QTreeView>
 
 using Kind = ProjectNode::Kind;
 
-ExpansionKeeper::ExpansionKeeper(QTreeView* view, const ProjectFilterModel* model)
+ExpansionKeeper::ExpansionKeeper(QTreeView* view, const ProjectRowsModel* model)
     : QObject(view), m_view(view), m_model(model) {
     connect(view, &QTreeView::expanded, this, [this](const QModelIndex& index) { remember(index, true); });
     connect(view, &QTreeView::collapsed, this, [this](const QModelIndex& index) { remember(index, false); });

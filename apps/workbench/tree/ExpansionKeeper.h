@@ -4,7 +4,7 @@
 #include <QPair>
 #include <QSet>
 
-class ProjectFilterModel;
+class ProjectRowsModel;
 class QModelIndex;
 class QTreeView;
 struct ProjectNode;
@@ -17,7 +17,7 @@ class ExpansionKeeper : public QObject {
 
 public:
     /// Neither is owned; the view shows the model already, so that it hears of new rows first.
-    ExpansionKeeper(QTreeView* view, const ProjectFilterModel* model);
+    ExpansionKeeper(QTreeView* view, const ProjectRowsModel* model);
     ~ExpansionKeeper() override;
 
     void forget() { m_toggled.clear(); }
@@ -33,7 +33,7 @@ private:
     void remember(const QModelIndex& index, bool expanded);
 
     QTreeView* m_view;
-    const ProjectFilterModel* m_model;
+    const ProjectRowsModel* m_model;
     /// What the user left otherwise than it was at first.
     QSet<NodeId> m_toggled;
     bool m_applying = false;

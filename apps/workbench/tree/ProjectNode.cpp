@@ -1,71 +1,47 @@
 #include "ProjectNode.h"
 
-#include "TDatabase.h"
+#include <iterator>
+#include <utility>
 
-#include <algorithm>
-
-namespace {
-
-using Kind = ProjectNode::Kind;
-
-ProjectNode& append(ProjectNode& parent, Kind kind, qint64 key, const QString& name = {}) {
-    auto node = std::make_unique<ProjectNode>();
-    node->kind = kind;
-    node->key = key;
-    node->name = name;
-    node->parent = &parent;
-    parent.children.push_back(std::move(node));
-    return *parent.children.back();
+ProjectNode::ProjectNode(Kind nodeKind, const TechDB::ListedName& listed)
+    : kind(nodeKind), key(listed.place.key) {
+    update(listed);
 }
 
-void sortByKey(ProjectNode& node) {
-    std::sort(node.children.begin(), node.children.end(),
-              [](const auto& left, const auto& right) { return left->key < right->key; });
-}
-
-void addDatasets(ProjectNode& section, const TechDB::TDatabase& project) {
-    for (const TechDB::DatasetInfo& info : project.datasets()) {
-        ProjectNode& dataset = append(section, Kind::Dataset, info.key, info.name);
-        dataset.created = info.created;
-        if (info.sampleCount == 0) {
-            continue;
-        }
-        for (const TechDB::SampleInfo& sample : project.samples(info.key)) {
-            append(dataset, Kind::Sample, sample.key, sample.name);
-        }
-        sortByKey(dataset);
+ProjectNode::Kind ProjectNode::kindBelow() const {
+    if (kind == Kind::Dataset) {
+        return Kind::Sample;
     }
-    sortByKey(section);
+    return key == datasets ? Kind::Dataset : Kind::Analysis;
 }
 
-void addAnalyses(ProjectNode& section, const TechDB::TDatabase& project) {
-    for (const TechDB::AnalysisInfo& info : project.analyses()) {
-        ProjectNode& analysis = append(section, Kind::Analysis, info.key, info.name);
-        analysis.created = info.created;
-        analysis.pointCount = info.pointCount;
+bool ProjectNode::update(const TechDB::ListedName& listed) {
+    const bool same = name == listed.name && created == listed.created && count == listed.count;
+    name = listed.name;
+    sortKey = listed.place.sortKey;
+    created = listed.created;
+    count = listed.count;
+    return !same;
+}
+
+void ProjectNode::insert(std::size_t place, const TechDB::ListedNames& names, int first, int end) {
+    Children added;
+    added.reserve(static_cast<std::size_t>(end - first));
+    for (int i = first; i < end; ++i) {
+        added.push_back(std::make_unique<ProjectNode>(kindBelow(), names.at(i)));
+        added.back()->parent = this;
     }
-    sortByKey(section);
+    children.insert(children.begin() + static_cast<std::ptrdiff_t>(place),
+                    std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()));
+    number(place);
 }
 
-} // namespace
+void ProjectNode::truncate(std::size_t place) {
+    children.erase(children.begin() + static_cast<std::ptrdiff_t>(place), children.end());
+}
 
-ProjectNode::Children ProjectNode::sectionsOf(const TechDB::TDatabase* project) {
-    ProjectNode root;
-    ProjectNode& datasetSection = append(root, Kind::Section, datasets);
-    ProjectNode& analysisSection = append(root, Kind::Section, analyses);
-    if (project != nullptr) {
-        addDatasets(datasetSection, *project);
-        addAnalyses(analysisSection, *project);
+void ProjectNode::number(std::size_t from) {
+    for (std::size_t i = from; i < children.size(); ++i) {
+        children[i]->row = static_cast<int>(i);
     }
-    return std::move(root.children);
-}
-
-int ProjectNode::row() const {
-    const auto place = std::lower_bound(parent->children.begin(), parent->children.end(), key,
-                                        [](const auto& node, qint64 wanted) { return node->key < wanted; });
-    return static_cast<int>(place - parent->children.begin());
-}
-
-bool ProjectNode::looksLike(const ProjectNode& other) const {
-    return name == other.name && created == other.created && pointCount == other.pointCount;
 }

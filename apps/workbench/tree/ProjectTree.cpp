@@ -2,7 +2,6 @@
 
 #include "ExpansionKeeper.h"
 #include "ObjectRemoval.h"
-#include "ProjectFilterModel.h"
 #include "ProjectTreeModel.h"
 #include "ProjectView.h"
 #include "TActionText.h"
@@ -38,9 +37,8 @@ QList<const VKObject2*> analysesAmong(QList<const VKObject2*> objects) {
 } // namespace
 
 ProjectTree::ProjectTree(QWidget* parent)
-    : QWidget(parent), m_model(new ProjectTreeModel(this)), m_shown(new ProjectFilterModel(m_model, this)),
-      m_filter(new QLineEdit(this)), m_view(new ProjectView(*m_shown, this)),
-      m_expansion(new ExpansionKeeper(m_view, m_shown)),
+    : QWidget(parent), m_model(new ProjectTreeModel(this)), m_filter(new QLineEdit(this)),
+      m_view(new ProjectView(*m_model, this)), m_expansion(new ExpansionKeeper(m_view, m_model)),
       m_open(addCommand(QStringLiteral("table"), &ProjectTree::open)),
       m_rename(addCommand(QStringLiteral("rename"), &ProjectTree::rename)),
       m_remove(addCommand(QStringLiteral("delete_generic"), &ProjectTree::removeSelected)),
@@ -92,7 +90,7 @@ void ProjectTree::connectParts() {
     connect(m_view, &ProjectView::selectionMayHaveChanged, this, &ProjectTree::updateActions);
     connect(m_view, &ProjectView::menuRequested, this, &ProjectTree::showMenu);
     connect(m_view, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
-        if (m_shown->node(index).kind == Kind::Section) {
+        if (m_model->node(index).kind == Kind::Section) {
             m_view->setExpanded(index, !m_view->isExpanded(index));
         } else {
             open();
@@ -107,6 +105,7 @@ void ProjectTree::setProject(TechDB::TDatabase* project) {
     m_project = project;
     m_pendingRefresh.stop();
     m_expansion->forget();
+    m_model->setProject(nullptr); // the filter's end is none for either project
     m_filter->clear();
     m_model->setProject(project);
     if (project != nullptr) {
@@ -123,18 +122,19 @@ void ProjectTree::refreshSoon() {
 void ProjectTree::refresh() {
     m_pendingRefresh.stop();
     try {
-        m_model->refresh();
+        m_model->refresh(heldRows());
     } catch (const VKError& error) {
         VKError::dispatchError(error);
-    }
-    if (!m_shown->filter().isEmpty()) {
-        m_shown->setFilter(m_filter->text()); // a new name of a dataset decides on its samples too
     }
     updateState();
 }
 
 QList<const VKObject2*> ProjectTree::selectedObjects() const {
-    return m_shown->objects(ProjectFilterModel::topToBottom(m_view->selectionModel()->selectedRows()));
+    return m_model->objects(ProjectTreeModel::topToBottom(m_view->selectionModel()->selectedRows()));
+}
+
+QModelIndexList ProjectTree::heldRows() const {
+    return m_view->selectionModel()->selectedRows() << m_view->currentIndex();
 }
 
 void ProjectTree::focusFilter() {
@@ -143,7 +143,11 @@ void ProjectTree::focusFilter() {
 }
 
 void ProjectTree::applyFilter() {
-    m_shown->setFilter(m_filter->text());
+    try {
+        m_model->setFilter(m_filter->text(), heldRows());
+    } catch (const VKError& error) {
+        VKError::dispatchError(error);
+    }
     m_expansion->apply();
     if (m_view->currentIndex().isValid()) {
         m_view->scrollTo(m_view->currentIndex());
@@ -175,7 +179,7 @@ bool ProjectTree::eventFilter(QObject* watched, QEvent* event) {
 void ProjectTree::enterView() {
     m_view->setFocus(Qt::TabFocusReason);
     if (!m_view->selectionModel()->hasSelection()) {
-        m_view->setCurrentIndex(m_shown->index(0, 0, m_shown->index(0, 0)));
+        m_view->setCurrentIndex(m_model->index(0, 0, m_model->index(0, 0)));
     }
 }
 
@@ -199,7 +203,7 @@ void ProjectTree::updateHint() {
     } else {
         m_view->setHint(tr("No name holds “%1”.\n\nClear the filter to see everything.",
                            "Aucun nom ne contient « %1 ».\n\nEffacez le filtre pour tout voir.")
-                            .arg(fontMetrics().elidedText(m_shown->filter(), Qt::ElideRight, longestQuote)));
+                            .arg(fontMetrics().elidedText(m_model->filter(), Qt::ElideRight, longestQuote)));
     }
 }
 
@@ -209,7 +213,7 @@ void ProjectTree::updateActions() {
     const QModelIndexList rows = m_view->selectionModel()->selectedRows();
     bool opens = false;
     for (const QModelIndex& row : rows) {
-        const ProjectNode& node = m_shown->node(row);
+        const ProjectNode& node = m_model->node(row);
         objects += node.isObject() ? 1 : 0;
         analyses += node.kind == Kind::Analysis ? 1 : 0;
         opens = opens || node.isObject() || node.kind == Kind::Sample;
@@ -241,9 +245,7 @@ void ProjectTree::retranslate() {
 void ProjectTree::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange) {
-        m_shown->followLocale();
-        m_expansion->apply();
-        emit m_model->headerDataChanged(Qt::Horizontal, 0, ProjectTreeModel::ColumnCount - 1);
+        m_model->retranslate();
         retranslate();
     }
 }
@@ -264,9 +266,9 @@ void ProjectTree::showMenu(const QPoint& place) {
 void ProjectTree::open() {
     QModelIndexList rows = m_view->selectionModel()->selectedRows();
     for (QModelIndex& row : rows) {
-        row = m_shown->node(row).kind == Kind::Sample ? row.parent() : row;
+        row = m_model->node(row).kind == Kind::Sample ? row.parent() : row;
     }
-    const auto objects = m_shown->objects(ProjectFilterModel::topToBottom(rows));
+    const auto objects = m_model->objects(ProjectTreeModel::topToBottom(rows));
     if (!objects.isEmpty()) {
         emit openRequested(objects);
     }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QList>
+#include <QModelIndex>
 #include <QTimer>
 #include <QWidget>
 
 class ExpansionKeeper;
-class ProjectFilterModel;
 class ProjectTreeModel;
 class ProjectView;
 class QAction;
@@ -65,6 +65,7 @@ private:
     void layOut();
     void connectParts();
     void applyFilter();
+    QModelIndexList heldRows() const;
     void enterView();
     void updateState();
     void updateHint();
@@ -80,7 +81,6 @@ private:
 
     TechDB::TDatabase* m_project = nullptr;
     ProjectTreeModel* m_model;
-    ProjectFilterModel* m_shown;
     QLineEdit* m_filter;
     ProjectView* m_view;
     ExpansionKeeper* m_expansion;

@@ -1,20 +1,18 @@
 #pragma once
 
-#include "ProjectNode.h"
+#include "ProjectRowsModel.h"
 
-#include <QAbstractItemModel>
 #include <QIcon>
 
 class VKObject2;
 
-/// What a project holds as a tree: sections, datasets with samples, analyses, with name, date and number of
-/// points; the tooltip of a date tells the time too. It keeps names, dates and counts, never a curve. Names
-/// are plain text on one line: a line break or another control character that another program put into one is
-/// shown as a blank.
+/// What a project holds as a tree, with name, date and number of points in each row; the tooltip of a date
+/// tells the time too. Names are plain text on one line: a line break or another control character that
+/// another program put into one is shown as a blank.
 ///
 /// Setting the text of a dataset or an analysis renames it in the project; a refused name is told by
 /// VKError::dispatchError and changes nothing.
-class ProjectTreeModel : public QAbstractItemModel {
+class ProjectTreeModel : public ProjectRowsModel {
     Q_OBJECT
 
 public:
@@ -23,25 +21,17 @@ public:
     explicit ProjectTreeModel(QObject* parent = nullptr);
     ~ProjectTreeModel() override;
 
-    /// Null for none. It is read by `refresh`.
-    void setProject(TechDB::TDatabase* project);
-    /// Takes over what the project holds now, row by row, so that what stays keeps its place in the views.
-    /// Throws VKError if the project can't be read; then all stays.
-    void refresh();
-
-    /// Whether there is any dataset or analysis.
-    bool isEmpty() const;
-
-    /// The index must be one of this model.
-    const ProjectNode& node(const QModelIndex& index) const;
-    /// Null for a section, a sample, and what is no longer in the project. Throws VKError.
-    const VKObject2* object(const QModelIndex& index) const;
     /// The name as it is shown; for a section, in the user's language.
     static QString shownName(const ProjectNode& node);
+    /// Shows names, dates and counts in the present language.
+    void retranslate();
 
-    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
-    QModelIndex parent(const QModelIndex& index) const override;
-    int rowCount(const QModelIndex& parent = {}) const override;
+    /// One index of each row, in the order from top to bottom.
+    static QModelIndexList topToBottom(const QModelIndexList& rows);
+    /// What the rows stand for, in their order, without sections, samples, and what is no longer in the
+    /// project. A project that can't be read is reported and gives none.
+    QList<const VKObject2*> objects(const QModelIndexList& rows) const;
+
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
@@ -49,21 +39,15 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     Qt::DropActions supportedDragActions() const override { return Qt::CopyAction; }
     QStringList mimeTypes() const override;
+    /// The objects from top to bottom, as VKObject2Decoder has it; null if there is none.
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
 
 private:
-    QModelIndex indexOf(const ProjectNode& node, int column = NameColumn) const;
-    QString text(const ProjectNode& node, int column) const;
+    static QString text(const ProjectNode& node, int column);
     static QString moment(const ProjectNode& node);
     QVariant decoration(const ProjectNode& node) const;
-    bool rename(const ProjectNode& node, const QString& name);
+    bool rename(const QModelIndex& index, const QString& name);
 
-    void merge(ProjectNode& present, ProjectNode::Children fresh);
-    void removeMissing(ProjectNode& present, const ProjectNode::Children& fresh);
-    void insert(ProjectNode& present, ProjectNode::Children& fresh, std::size_t first, std::size_t end);
-    void update(ProjectNode& present, ProjectNode& fresh);
-
-    TechDB::TDatabase* m_project = nullptr;
-    ProjectNode m_root;
     QIcon m_datasetIcon;
     QIcon m_sampleIcon;
     QIcon m_analysisIcon;

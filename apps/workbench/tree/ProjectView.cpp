@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QScrollBar>
 #include <QStyle>
 
 namespace {
@@ -16,10 +17,11 @@ constexpr int hintMargin = 24;
 constexpr int columnMargin = 16;
 constexpr int lettersOfNames = 20; // the least that tells names apart
 constexpr int branchIndent = 16;
+constexpr int screensAhead = 3; // of rows that are there before they are scrolled to
 
 } // namespace
 
-ProjectView::ProjectView(QAbstractItemModel& model, QWidget* parent) : QTreeView(parent) {
+ProjectView::ProjectView(ProjectTreeModel& model, QWidget* parent) : QTreeView(parent), m_model(model) {
     setFrameShape(QFrame::NoFrame);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -33,6 +35,18 @@ ProjectView::ProjectView(QAbstractItemModel& model, QWidget* parent) : QTreeView
     setItemDelegate(new NameDelegate(this));
     setModel(&model);
     setUpHeader();
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& list) {
+        if (m_model.rowCount(list) == 0) {
+            m_model.readOn(list);
+        }
+    });
+    // Not while rows are laid out, which moves the scroll bar too.
+    m_pendingReading.setSingleShot(true);
+    m_pendingReading.setInterval(0);
+    connect(&m_pendingReading, &QTimer::timeout, this, &ProjectView::readOnInSight);
+    const auto readSoon = [this] { m_pendingReading.start(); };
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, readSoon);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, readSoon);
 }
 
 ProjectView::~ProjectView() = default;
@@ -67,13 +81,93 @@ void ProjectView::sizeColumns() {
 // NOLINTNEXTLINE(misc-no-recursion) as deep as the tree: three levels
 void ProjectView::spanNames(const QModelIndex& parent, int first, int last) {
     for (int row = first; row <= last; ++row) {
-        const QModelIndex name = model()->index(row, ProjectTreeModel::NameColumn, parent);
-        if (name.siblingAtColumn(ProjectTreeModel::DateColumn).data().toString().isEmpty() &&
-            name.siblingAtColumn(ProjectTreeModel::PointsColumn).data().toString().isEmpty()) {
+        const QModelIndex name = m_model.index(row, ProjectTreeModel::NameColumn, parent);
+        const ProjectNode& node = m_model.node(name);
+        if (node.kind != ProjectNode::Kind::Analysis && !node.created.isValid()) {
             setFirstColumnSpanned(row, parent, true);
         }
-        spanNames(name, 0, model()->rowCount(name) - 1);
+        spanNames(name, 0, m_model.rowCount(name) - 1);
     }
+}
+
+bool ProjectView::isEmpty() const {
+    return m_model.rowCount() == 0;
+}
+
+bool ProjectView::isShownOpen(const QModelIndex& list) const {
+    return isExpanded(list) && (!list.parent().isValid() || isExpanded(list.parent()));
+}
+
+QModelIndex ProjectView::lastBelow(QModelIndex row) const {
+    while (isExpanded(row) && m_model.rowCount(row) > 0) {
+        row = m_model.index(m_model.rowCount(row) - 1, 0, row);
+    }
+    return row;
+}
+
+void ProjectView::readOnInSight() {
+    const QModelIndexList lists = m_model.unfinishedLists();
+    for (const QModelIndex& list : lists) {
+        if (!isShownOpen(list)) {
+            continue;
+        }
+        // What comes behind a row above all that is shown would move it.
+        const QRect end = visualRect(lastBelow(list));
+        if (end.bottom() >= 0 && end.top() < screensAhead * viewport()->height()) {
+            m_model.readOn(list);
+        }
+    }
+}
+
+void ProjectView::readAllShown() {
+    const QModelIndexList lists = m_model.unfinishedLists();
+    for (const QModelIndex& list : lists) {
+        if (isShownOpen(list)) {
+            m_model.readRest(list);
+        }
+    }
+}
+
+void ProjectView::readWhole(const QModelIndex& branch) {
+    m_model.readRest(branch);
+    for (int row = 0; row < m_model.rowCount(branch); ++row) {
+        m_model.readRest(m_model.index(row, 0, branch));
+    }
+}
+
+void ProjectView::selectRestOfLists() {
+    const QModelIndexList lists = m_model.unfinishedLists();
+    for (const QModelIndex& list : lists) {
+        const QModelIndex last = lastBelow(list);
+        if (!isShownOpen(list) || !selectionModel()->isSelected(last) ||
+            !selectionModel()->isSelected(indexBelow(last))) {
+            continue;
+        }
+        const int before = m_model.rowCount(list);
+        m_model.readRest(list);
+        if (m_model.rowCount(list) > before) {
+            selectionModel()->select(
+                {m_model.index(before, 0, list), m_model.index(m_model.rowCount(list) - 1, 0, list)},
+                QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        }
+    }
+}
+
+void ProjectView::selectAll() {
+    readAllShown();
+    QTreeView::selectAll();
+}
+
+void ProjectView::keyboardSearch(const QString& search) {
+    readAllShown();
+    QTreeView::keyboardSearch(search);
+}
+
+QModelIndex ProjectView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action == MoveEnd) {
+        readAllShown();
+    }
+    return QTreeView::moveCursor(action, modifiers);
 }
 
 void ProjectView::setHint(const QString& hint) {
@@ -87,6 +181,7 @@ void ProjectView::setHint(const QString& hint) {
 
 void ProjectView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QTreeView::selectionChanged(selected, deselected);
+    selectRestOfLists();
     emit selectionMayHaveChanged();
 }
 
@@ -102,6 +197,9 @@ void ProjectView::keyPressEvent(QKeyEvent* event) {
     if (enters && event->modifiers() == Qt::NoModifier && model()->hasChildren(branch)) {
         setExpanded(branch, !isExpanded(branch));
         return;
+    }
+    if (event->key() == Qt::Key_Asterisk) {
+        readWhole(branch);
     }
     QTreeView::keyPressEvent(event);
 }

@@ -98,6 +98,14 @@ protected:
         return names;
     }
 
+    static QString joined(const TechDB::ListedNames& list) {
+        QStringList names;
+        for (const TechDB::ListedName& one : list) {
+            names.append(one.name);
+        }
+        return names.join(' ');
+    }
+
     QTemporaryDir folder;
     std::unique_ptr<ServerDatabase> server =
         ServerDatabase::isThere() ? std::make_unique<ServerDatabase>() : nullptr;

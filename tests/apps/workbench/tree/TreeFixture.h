@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ProjectTree.h"
+#include "ProjectTreeModel.h"
 #include "TDatabase.h"
 #include "VKError.h"
 #include "VKObject2Analysis.h"
@@ -56,9 +57,12 @@ protected:
     QAbstractItemModel& shown() const { return *view().model(); }
     QLineEdit& filter() const { return *tree.findChild<QLineEdit*>(); }
 
-    /// Every shown name from top to bottom, each level set in by a dot.
+    /// Every shown name from top to bottom, each level set in by a dot; reads all that wasn't read yet.
     QStringList names(const QModelIndex& parent = {}, const QString& indent = {}) const {
         QStringList list;
+        if (parent.isValid()) {
+            dynamic_cast<ProjectTreeModel&>(shown()).readRest(parent);
+        }
         for (int row = 0; row < shown().rowCount(parent); ++row) {
             const QModelIndex index = shown().index(row, 0, parent);
             list.append(indent + index.data().toString());
@@ -67,6 +71,7 @@ protected:
         return list;
     }
     QModelIndex find(const QString& name) const {
+        names();
         return shown()
             .match(shown().index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchRecursive)
             .value(0);

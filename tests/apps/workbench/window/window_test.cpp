@@ -103,8 +103,8 @@ TEST_F(Window, what_is_selected_in_the_tree_opens_as_a_table_and_goes_to_the_qua
 TEST_F(Window, what_another_window_stored_shows_when_one_comes_back) {
     workbench->projects().create(path("lab.vornproj"), &ExampleProject::fill);
     const auto other = TechDB::TDatabase::open(path("lab.vornproj"));
-    other->addAnalysis("from the other window", {}, TAnalysisData({0, 1, 2}, {1, 2, 1}));
     tree().findChild<QLineEdit*>()->setText("other window");
+    other->addAnalysis("from the other window", {}, TAnalysisData({0, 1, 2}, {1, 2, 1}));
     tree().findChild<QTreeView*>()->selectAll();
     EXPECT_TRUE(tree().selectedObjects().isEmpty());
     QApplication::setActiveWindow(&workbench->window());

@@ -1,0 +1,86 @@
+#include "ProjectFixture.h"
+
+using TechDB::ListedNames;
+using TechDB::NameRange;
+
+namespace {
+
+class Names : public ProjectTest {
+protected:
+    Names() {
+        for (const char* const name :
+             {"S 10", "s 9", "100%", "under_score", "a!b", "\u00c9cole 2", "S 100"}) {
+            database->addAnalysis(QString::fromUtf8(name), {}, ramp());
+        }
+    }
+    QString holding(const QString& part) const {
+        NameRange range;
+        range.part = part;
+        return joined(database->analysisNames(range));
+    }
+};
+
+} // namespace
+
+TEST_F(Names, come_page_by_page_in_natural_order_without_gap_or_repetition) {
+    const ListedNames all = database->analysisNames({});
+    EXPECT_EQ(joined(all).toStdString(), "100% a!b \u00c9cole 2 s 9 S 10 S 100 under_score");
+    NameRange page;
+    page.limit = 3;
+    QStringList pages;
+    for (ListedNames names = database->analysisNames(page); !names.isEmpty();
+         names = database->analysisNames(page)) {
+        pages.append(joined(names));
+        page.after = names.last().place;
+    }
+    EXPECT_EQ(pages, QStringList({"100% a!b \u00c9cole 2", "s 9 S 10 S 100", "under_score"}));
+    NameRange upTo;
+    upTo.after = all.at(1).place;
+    upTo.upTo = all.at(3).place;
+    EXPECT_EQ(joined(database->analysisNames(upTo)), "\u00c9cole 2 s 9");
+    upTo.only = all.at(4).place.key;
+    EXPECT_EQ(joined(database->analysisNames(upTo)), "");
+}
+
+TEST_F(Names, are_found_by_any_part_letter_by_letter) {
+    EXPECT_EQ(holding("s 1"), "S 10 S 100");
+    EXPECT_EQ(holding("%"), "100%");
+    EXPECT_EQ(holding("r_s"), "under_score");
+    EXPECT_EQ(holding("_"), "under_score");
+    EXPECT_EQ(holding("A!B"), "a!b");
+    EXPECT_EQ(holding("!"), "a!b");
+    EXPECT_EQ(holding("e\u0301COLE"), "\u00c9cole 2");
+    EXPECT_EQ(holding("' OR 1=1 --"), "");
+    EXPECT_EQ(holding(QString(100'000, 'x')), "") << "longer than engines take";
+}
+
+TEST_F(Names, of_a_dataset_are_found_by_those_of_its_samples) {
+    for (const QString name : {"Basin", "Ridge", "Empty"}) {
+        database->addWell(name);
+    }
+    const qint64 ridge = database->getWell("Ridge")->key();
+    for (const QString name : {"11", "2", "basin 3"}) {
+        database->addSample(ridge, name, {{"r"}, {"c"}, {1.0}, {}});
+    }
+    NameRange basin;
+    basin.part = "BASIN";
+    EXPECT_EQ(joined(database->datasetNames(basin)), "Basin Ridge");
+    EXPECT_EQ(joined(database->sampleNames(ridge, {})), "2 11 basin 3");
+    EXPECT_EQ(joined(database->sampleNames(ridge, basin)), "basin 3");
+    EXPECT_EQ(joined(database->sampleNames(ridge + 1, {})), "");
+    const ListedNames all = database->datasetNames({});
+    EXPECT_EQ(all.at(0).count, 0);
+    EXPECT_EQ(all.at(2).count, 1);
+}
+
+TEST_F(Names, follow_a_renaming) {
+    database->renameAnalysis(database->getAnalysis("S 10")->key(), "A 1");
+    EXPECT_EQ(holding("s 10"), "S 100");
+    EXPECT_EQ(joined(database->analysisNames({})).toStdString(),
+              "100% A 1 a!b \u00c9cole 2 s 9 S 100 under_score");
+}
+
+TEST_F(Names, that_another_program_wrote_are_listed_though_not_in_order) {
+    sql(path(), {"INSERT INTO datasets (name, created) VALUES ('theirs', 'never')"});
+    EXPECT_EQ(joined(database->datasetNames({})), "theirs");
+}
