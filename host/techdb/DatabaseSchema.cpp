@@ -91,7 +91,7 @@ int DatabaseSchema::knownVersionOf(SqlConnection& connection) const {
 }
 
 QString DatabaseSchema::idOf(SqlConnection& connection) const {
-    const QString id = identityCell(connection, QStringLiteral("id"));
+    QString id = identityCell(connection, QStringLiteral("id"));
     if (QUuid(id).isNull()) {
         failAsForeign(connection);
     }

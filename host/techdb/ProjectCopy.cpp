@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <optional>
@@ -38,14 +39,18 @@ QVariant plain(const QVariant& value) {
     return value.userType() == QMetaType::Int ? QVariant(value.toLongLong()) : value;
 }
 
+std::uint64_t bitsOf(double number) {
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
+
 /// Numbers bit for bit: QVariant takes neighbours for equal.
 bool isSame(const QVariant& one, const QVariant& other) {
     if (one.userType() != QMetaType::Double || other.userType() != QMetaType::Double) {
         return one == other;
     }
-    const double left = one.toDouble();
-    const double right = other.toDouble();
-    return std::memcmp(&left, &right, sizeof left) == 0;
+    return bitsOf(one.toDouble()) == bitsOf(other.toDouble());
 }
 
 bool isSameRow(const SqlConnection::Values& one, const SqlConnection::Values& other) {
