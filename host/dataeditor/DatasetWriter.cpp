@@ -2,9 +2,20 @@
 
 #include "ModelSample.h"
 #include "TDatabase.h"
+#include "VKError.h"
 #include "VKObject2Well.h"
 
+#include <QCoreApplication>
+
 #include <optional>
+
+namespace {
+
+QString translated(const char* english, const char* french) {
+    return QCoreApplication::translate("DatasetWriter", english, french);
+}
+
+} // namespace
 
 void DatasetWriter::write(const QAbstractItemModel& model, const QString& dataset, const QString& sample,
                           int role) {
@@ -22,9 +33,23 @@ void DatasetWriter::write(const QAbstractItemModel& model, const QString& datase
 }
 
 qint64 DatasetWriter::startedDataset(const QString& name) {
+    if (m_database.isThoughtFree(name)) {
+        m_new.insert(name);
+    }
     const VKObject2Well* const existing = m_database.getWell(name);
     if (existing == nullptr) {
         return m_database.addWell(name)->key();
+    }
+    if (m_new.contains(name)) { // nobody agreed to its being replaced
+        throw VKError(
+            translated("Another window has stored a dataset named <b>%1</b> in the meantime, which was "
+                       "left as it is.",
+                       "Une autre fenêtre a entre-temps enregistré un ensemble de données nommé "
+                       "<b>%1</b>, qui est resté tel quel.")
+                .arg(name.toHtmlEscaped()),
+            {},
+            translated("Import the file again: you are asked what to do.",
+                       "Importez à nouveau le fichier : la question vous sera posée."));
     }
     m_database.emptyWell(existing->key());
     return existing->key();

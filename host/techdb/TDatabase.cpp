@@ -207,7 +207,12 @@ QVector<DatasetInfo> TDatabase::datasets() const {
 
 const VKObject2Well* TDatabase::getWell(const QString& name) const {
     const std::optional<DatasetInfo> info = DatasetStore(*m_connection).byName(name);
-    return info ? m_objects->well(*info) : nullptr;
+    if (!info) {
+        m_thoughtFree.insert(name);
+        return nullptr;
+    }
+    m_thoughtFree.remove(name);
+    return m_objects->well(*info);
 }
 
 const VKObject2Well* TDatabase::wellByKey(qint64 key) const {
@@ -218,6 +223,7 @@ const VKObject2Well* TDatabase::wellByKey(qint64 key) const {
 const VKObject2Well* TDatabase::addWell(const QString& name) {
     Transaction transaction(*this);
     const qint64 key = DatasetStore(*m_connection).add(name);
+    m_thoughtFree.remove(name);
     record(ObjectChange::Kind::Added, VKObjectType::Well, key);
     transaction.commit();
     return wellByKey(key);

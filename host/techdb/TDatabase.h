@@ -8,6 +8,7 @@
 #include "TAnalysisData.h"
 
 #include <QObject>
+#include <QSet>
 #include <QVector>
 
 #include <functional>
@@ -93,6 +94,9 @@ public:
 
     QVector<DatasetInfo> datasets() const;
     const VKObject2Well* getWell(const QString& name) const;
+    /// Whether the last `getWell` of a name gave null, and nobody has stored such a dataset through this
+    /// object since. What stands under the name nevertheless is somebody else's, who was quicker.
+    bool isThoughtFree(const QString& name) const { return m_thoughtFree.contains(name); }
     const VKObject2Well* wellByKey(qint64 key) const;
     /// Makes an empty dataset.
     const VKObject2Well* addWell(const QString& name);
@@ -162,6 +166,7 @@ private:
     std::unique_ptr<TAnalysisData> m_lastCurve;
     ReadAhead* m_readAhead = nullptr;
     QString m_projectId;
+    mutable QSet<QString> m_thoughtFree;
     QVector<UncommittedChange> m_changes;
 };
 

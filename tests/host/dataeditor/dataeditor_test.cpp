@@ -146,6 +146,26 @@ TEST_F(DataEditor, overwriting_replaces_a_dataset_in_one_go_under_its_key) {
         << "D changed, E added and changed";
 }
 
+TEST_F(DataEditor, what_another_window_stored_since_the_name_was_looked_up_is_not_overwritten) {
+    const auto other = TechDB::TDatabase::open(path());
+    EXPECT_EQ(database->getWell("D"), nullptr) << "so nobody is asked";
+    const qint64 theirs = other->addWell("D")->key();
+    other->addSample(theirs, "theirs", {{"r"}, {"c"}, {1.0}, {}});
+    {
+        TDataEditor2Ctrl editor;
+        EXPECT_FALSE(save(editor, "D", "Sample 1"));
+        EXPECT_FALSE(save(editor, "D", "Sample 2"));
+    }
+    EXPECT_TRUE(says(errors(), "in the meantime"));
+    EXPECT_EQ(samples("D"), QStringList("theirs"));
+    ASSERT_NE(database->getWell("D"), nullptr) << "now one can be asked";
+    {
+        TDataEditor2Ctrl editor;
+        EXPECT_TRUE(save(editor, "D", "Sample 1"));
+    }
+    EXPECT_EQ(samples("D"), QStringList("Sample 1"));
+}
+
 TEST_F(DataEditor, a_save_that_fails_says_why_and_leaves_no_trace) {
     database->addSample(database->addWell("D")->key(), "old", {{"r"}, {"c"}, {1.0}, {}});
     TDataEditor2Ctrl editor;
