@@ -148,6 +148,7 @@ void ProjectRowsModel::addSection(qint64 key, const Page& page) {
     endInsertRows();
 }
 
+// NOLINTNEXTLINE(misc-no-recursion) as deep as the tree: three levels
 void ProjectRowsModel::merge(ProjectNode& list, const Page& page, const Reading& reading) {
     QHash<qint64, int> places;
     for (int i = 0; i < page.names.size(); ++i) {
