@@ -34,7 +34,10 @@ private:
 QString projectFolder() {
     const ProjectMgrInterface* const projects = ProjectMgrInterface::returnMe();
     const TechDB::TDatabase* const project = projects == nullptr ? nullptr : projects->projectDatabase();
-    return project == nullptr || project->folder().isNull() ? QDir::homePath() : project->folder();
+    if (project == nullptr) {
+        return QDir::currentPath();
+    }
+    return project->folder().isNull() ? QDir::homePath() : project->folder(); // a server has no folder
 }
 
 /// Where the engine writes: a fixed file, on Windows at a fixed place.

@@ -47,7 +47,8 @@ public:
     void select(const QString& statement, const Values& values, const RowReader& reader);
 
     /// Calls `heard` from the event loop after commits of other connections, if the dialect has a channel for
-    /// them; also when the connection was made anew, since commits may have gone unheard.
+    /// them; also, before the statement at hand, when the connection was made anew, since commits may have
+    /// gone unheard.
     void listen(const std::function<void()>& heard);
 
     /// A text for a column that must have one: a null string counts as an empty one.

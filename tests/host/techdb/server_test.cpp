@@ -2,7 +2,10 @@
 #include "MessageCollector.h"
 #include "ProjectFixture.h"
 
+#include "PostgresDialect.h"
 #include "ServerAddress.h"
+#include "SqlConnection.h"
+#include "SqlTransaction.h"
 #include "Transaction.h"
 
 #include <QProcess>
@@ -99,7 +102,15 @@ TEST_F(Server, a_cut_within_a_transaction_loses_all_of_it_and_nothing_else) {
     EXPECT_EQ(analysisNames(), QStringList({"before", "after"}));
 }
 
-TEST_F(Server, a_refused_statement_gives_its_transaction_up_and_no_commit_hides_that) {
+TEST_F(Server, no_commit_hides_that_the_server_has_given_a_transaction_up) {
+    TechDB::SqlConnection connection(TechDB::DatabaseKind::Project, place(),
+                                     std::make_unique<TechDB::PostgresDialect>());
+    TechDB::SqlTransaction transaction(connection);
+    EXPECT_NE(failure([&] { connection.run("SELECT 1 / 0"); }), "");
+    EXPECT_NE(failure([&] { transaction.commit(); }), "");
+}
+
+TEST_F(Server, a_refused_operation_is_taken_back_alone) {
     TechDB::Transaction transaction(*database);
     database->addAnalysis("A", {}, ramp());
     EXPECT_NE(failure([&] { database->addAnalysis("A", {}, ramp()); }), "") << "a savepoint takes it back";
@@ -162,6 +173,30 @@ TEST_F(Server, who_may_only_read_sees_everything_and_is_told_what_is_missing) {
     }
     sql({"DROP OWNED BY " + reader});
     ServerDatabase::onServer("DROP ROLE " + reader);
+}
+
+TEST_F(Server, the_documented_rights_suffice_to_write_and_a_service_file_to_find_the_server) {
+    const QString role = "analyst_" + QUuid::createUuid().toString(QUuid::Id128);
+    ServerDatabase::onServer("CREATE ROLE " + role + " LOGIN");
+    sql({"GRANT SELECT, INSERT, UPDATE, DELETE ON ALL TABLES IN SCHEMA public TO " + role,
+         "GRANT USAGE ON ALL SEQUENCES IN SCHEMA public TO " + role});
+    const QUrl url(server->address(role));
+    const QByteArray service = "[lab]\nhost=" + url.host().toUtf8() +
+                               "\nport=" + QByteArray::number(url.port()) + "\nuser=" + role.toUtf8() +
+                               "\ndbname=" + url.path().mid(1).toUtf8() + "\n";
+    write(path("services"), service);
+    qputenv("PGSERVICEFILE", path("services").toUtf8());
+    {
+        const auto theirs = TDatabase::open("postgresql://?service=lab");
+        EXPECT_EQ(theirs->title(), "lab");
+        const qint64 well = theirs->addWell("D")->key();
+        theirs->addSample(well, "S", {{"r"}, {"c"}, {1.0}, {}});
+        EXPECT_TRUE(theirs->curve(theirs->addAnalysis("A", {}, ramp())->key()).equals(ramp()));
+    }
+    qunsetenv("PGSERVICEFILE");
+    EXPECT_EQ(analysisNames(), QStringList("A"));
+    sql({"DROP OWNED BY " + role});
+    ServerDatabase::onServer("DROP ROLE " + role);
 }
 
 TEST_F(Server, numbers_and_texts_keep_every_bit) {
