@@ -8,7 +8,8 @@ namespace TechDB {
 class SqlConnection;
 
 /// Tells when another connection, that of another window or of another desk, has committed something: at once
-/// where the database tells, otherwise within a second. Needs an event loop.
+/// where the database tells, otherwise within a second. Where the connection was cut meanwhile, it is tried
+/// anew, ever more rarely, until it holds. Needs an event loop.
 class ForeignCommits : public QObject {
     Q_OBJECT
 
@@ -21,6 +22,7 @@ signals:
 private:
     qint64 counted() const;
     void look();
+    void listenAgain();
 
     SqlConnection& m_connection;
     qint64 m_known = 0;

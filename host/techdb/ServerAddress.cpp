@@ -94,6 +94,10 @@ void ServerAddress::aim(QSqlDatabase& connection) const {
     connection.setUserName(m_url.userName(QUrl::FullyDecoded));
     connection.setPassword(m_url.password(QUrl::FullyDecoded));
     QStringList options{QStringLiteral("connect_timeout=") + patience,
+                        // A line that went silent is a cut one within a minute.
+                        QStringLiteral("keepalives_idle=20"), QStringLiteral("keepalives_interval=10"),
+                        QStringLiteral("keepalives_count=3"),
+                        QStringLiteral("tcp_user_timeout=30000"), // milliseconds
                         QStringLiteral("application_name='Vorn workbench'")};
     for (const auto& option : m_options) {
         options.append(option.first + QLatin1Char('=') + quoted(option.second)); // the later one counts

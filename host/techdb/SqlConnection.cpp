@@ -62,10 +62,10 @@ void SqlConnection::close() {
 }
 
 void SqlConnection::reopenIfCut() {
-    m_isCut = m_isCut || !m_database.isOpen(); // the driver closes one that it finds cut while it listens
-    if (!m_isCut) {
+    if (!isCut()) {
         return;
     }
+    m_isCut = true; // the driver only closes one that it finds cut while it listens
     if (inTransaction()) {
         fail(QSqlError());
     }

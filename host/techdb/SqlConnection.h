@@ -36,6 +36,10 @@ public:
     QString shown() const { return m_dialect->shown(m_place); }
     const SqlDialect& dialect() const { return *m_dialect; }
     bool inTransaction() const { return m_openTransactions > 0; }
+    /// Whether the connection is known to be cut; some ways of breaking show only when it is used.
+    bool isCut() const { return m_isCut || !m_database.isOpen(); }
+    /// Makes a connection anew that was cut outside a transaction, as the next statement would.
+    void reopenIfCut();
 
     /// Runs a statement once; it isn't kept. Without values it need not be one that can be prepared.
     void run(const QString& statement, const Values& values = {});
@@ -60,7 +64,6 @@ private:
 
     void open();
     void close();
-    void reopenIfCut();
     void subscribe();
     void runOnce(const QString& statement, const Values& values);
     QSqlQuery query() const;

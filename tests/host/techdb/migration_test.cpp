@@ -15,8 +15,9 @@ protected:
         MessageLoggerInterface::setDefaultLogger(&log);
     }
 
-    int version(const QString& file = {}) const {
-        return sql(file.isEmpty() ? path() : file, {"SELECT schema_version FROM project"}).toInt();
+    int version() const { return sql({"SELECT schema_version FROM project"}).toInt(); }
+    static int versionOf(const QString& file) {
+        return sql(file, {"SELECT schema_version FROM project"}).toInt();
     }
 
     /// Takes from the project what came with the second version.
@@ -27,7 +28,7 @@ protected:
                        << "ALTER TABLE " + table + " DROP COLUMN sort_key"
                        << "ALTER TABLE " + table + " DROP COLUMN search_name";
         }
-        sql(path(), statements << "UPDATE project SET schema_version = 1");
+        sql(statements << "UPDATE project SET schema_version = 1");
     }
 
     const ProjectSchema fourth{
@@ -48,7 +49,7 @@ TEST_F(Migration, an_older_project_is_copied_then_brought_forward_step_by_step) 
     }
     EXPECT_EQ(version(), 4);
     EXPECT_EQ(sql(path(), {"SELECT note || coalesce(depth, '!') FROM analyses"}).toString(), "from A!");
-    EXPECT_EQ(version(backup), 2);
+    EXPECT_EQ(versionOf(backup), 2);
     EXPECT_EQ(TDatabase::open(backup)->analyses().size(), 1);
     EXPECT_TRUE(
         says(log.messages(MessageLevel::Information).join("|").toStdString(), "lab.version-2.vornproj"));
@@ -92,7 +93,9 @@ TEST_F(Migration, a_project_of_the_first_version_gets_the_order_of_its_names) {
     database.reset();
     makeFirstVersion();
     reopen();
-    EXPECT_EQ(version(path("lab.version-1.vornproj")), 1);
+    if (!server) {
+        EXPECT_EQ(versionOf(path("lab.version-1.vornproj")), 1);
+    }
     EXPECT_EQ(version(), 2);
     EXPECT_EQ(joined(database->analysisNames({})), "A s 9 S 10");
     EXPECT_EQ(joined(database->sampleNames(set, {})), "s 9 S 10");

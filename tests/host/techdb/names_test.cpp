@@ -1,5 +1,7 @@
 #include "ProjectFixture.h"
 
+#include <random>
+
 using TechDB::ListedNames;
 using TechDB::NameRange;
 
@@ -73,6 +75,21 @@ TEST_F(Names, of_a_dataset_are_found_by_those_of_its_samples) {
     EXPECT_EQ(all.at(2).count, 1);
 }
 
+TEST_F(Names, of_the_greatest_length_find_room_in_the_index) {
+    // Letters that become two of three bytes each when they are folded, in no order that could be packed.
+    std::mt19937 random(1);
+    std::uniform_int_distribution<int> letter(0x0958, 0x095f);
+    QString name;
+    for (int i = 0; i < 255; ++i) {
+        name += QChar(letter(random));
+    }
+    const qint64 dataset = database->addWell(name)->key();
+    database->addSample(dataset, name, {{"r"}, {"c"}, {1.0}, {}});
+    database->addAnalysis(name, {}, ramp());
+    EXPECT_EQ(holding(name), name);
+    EXPECT_EQ(joined(database->sampleNames(dataset, {})), name);
+}
+
 TEST_F(Names, follow_a_renaming) {
     database->renameAnalysis(database->getAnalysis("S 10")->key(), "A 1");
     EXPECT_EQ(holding("s 10"), "S 100");
@@ -81,6 +98,6 @@ TEST_F(Names, follow_a_renaming) {
 }
 
 TEST_F(Names, that_another_program_wrote_are_listed_though_not_in_order) {
-    sql(path(), {"INSERT INTO datasets (name, created) VALUES ('theirs', 'never')"});
+    sql({"INSERT INTO datasets (name, created) VALUES ('theirs', 'never')"});
     EXPECT_EQ(joined(database->datasetNames({})), "theirs");
 }

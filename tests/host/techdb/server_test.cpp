@@ -142,6 +142,14 @@ TEST_F(Server, who_was_cut_off_hears_others_again) {
     EXPECT_EQ(heard.count(), 1) << "something may have happened meanwhile";
     other->addAnalysis("theirs", {}, ramp());
     EXPECT_TRUE(heard.wait(2000));
+
+    control("stop");
+    QTest::qWait(2500);
+    control("start");
+    EXPECT_TRUE(heard.wait(10000)) << "nobody works here, but looks";
+    EXPECT_TRUE(says(failure([&] { other->analyses(); }), "was cut"));
+    other->addAnalysis("theirs too", {}, ramp());
+    EXPECT_TRUE(heard.wait(2000));
 }
 
 TEST_F(Server, places_without_a_project_are_refused_in_plain_words) {
