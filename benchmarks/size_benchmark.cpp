@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 #include "ProjectMgr.h"
 #include "ProjectTree.h"
+#include "ServerAddress.h"
 #include "TDatabase.h"
 #include "Transaction.h"
 #include "VKObject2Well.h"
@@ -10,8 +11,12 @@
 #include <benchmark/benchmark.h>
 
 #include <QLineEdit>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QTreeView>
+#include <QUrl>
 
 #include <malloc.h>
 
@@ -21,7 +26,8 @@
 #include <stdexcept>
 
 // What a large project costs beside a small one: each figure once with few and once with many stored
-// analyses, each of them with a dataset of its own, as raw files leave them.
+// analyses, each of them with a dataset of its own, as raw files leave them. In a file, and also on a server
+// if there is one (scripts/with-server).
 namespace {
 
 constexpr int few = 1000;
@@ -35,11 +41,39 @@ TAnalysisData curve() {
     return {x, x};
 }
 
-/// A project file with as many analyses, made when it is first asked for.
+enum class Store { File, Server };
+
+QString server() {
+    return qEnvironmentVariable("VORN_TEST_SERVER");
+}
+
+void runAt(const QString& address, const QString& statement) {
+    {
+        QSqlDatabase connection = QSqlDatabase::addDatabase("QPSQL", "aside");
+        TechDB::ServerAddress(address).aim(connection);
+        QSqlQuery query(connection.open() ? connection : QSqlDatabase());
+        if (!query.exec(statement)) {
+            throw std::runtime_error(connection.lastError().text().toStdString() +
+                                     query.lastError().text().toStdString());
+        }
+    }
+    QSqlDatabase::removeDatabase("aside");
+}
+
+QString emptyDatabase(const QString& name) {
+    runAt(server(), "CREATE DATABASE " + name);
+    QUrl address(server());
+    address.setPath("/" + name);
+    return address.toString();
+}
+
+/// A project with as many analyses, made when it is first asked for.
 class StoredProject {
 public:
-    explicit StoredProject(int count) {
-        const auto project = TechDB::TDatabase::create(path());
+    StoredProject(Store store, int count)
+        : m_place(store == Store::File ? m_folder.filePath("lab.vornproj")
+                                       : emptyDatabase("size_" + QString::number(count))) {
+        const auto project = TechDB::TDatabase::create(m_place);
         TechDB::Transaction transaction(*project);
         for (int i = 0; i < count; ++i) {
             project->addAnalysis(QStringLiteral("Well %1-%2.S00").arg(i % 97).arg(i), "Rock-Eval VI",
@@ -48,16 +82,20 @@ public:
             project->addSample(dataset->key(), "Rock-Eval", {{"Tmax"}, {"value"}, {431.0}, {}});
         }
         transaction.commit();
+        if (store == Store::Server) {
+            runAt(m_place, "VACUUM ANALYZE"); // a server does so by itself, some time after
+        }
     }
-    QString path() const { return m_folder.filePath("lab.vornproj"); }
+    const QString& place() const { return m_place; }
 
-    static const StoredProject& of(int count) {
-        static std::map<int, StoredProject> projects;
-        return projects.try_emplace(count, count).first->second;
+    static const StoredProject& of(Store store, int count) {
+        static std::map<std::pair<Store, int>, StoredProject> projects;
+        return projects.try_emplace({store, count}, store, count).first->second;
     }
 
 private:
     QTemporaryDir m_folder;
+    QString m_place;
 };
 
 void settle() {
@@ -75,8 +113,8 @@ std::optional<Workbench>& shown(std::optional<Workbench>& workbench) {
 }
 
 /// Until the tree is on the screen.
-void open(Workbench& workbench, int count) {
-    workbench.projects().open(StoredProject::of(count).path());
+void open(Workbench& workbench, const StoredProject& project) {
+    workbench.projects().open(project.place());
     settle();
 }
 
@@ -92,15 +130,18 @@ QModelIndex firstAnalysis(Workbench& workbench) {
     return model->index(0, 0, model->index(model->rowCount() - 1, 0));
 }
 
-void openProject(benchmark::State& state) {
-    const auto count = static_cast<int>(state.range(0));
-    StoredProject::of(count);
+const StoredProject& projectOf(const benchmark::State& state, Store store) {
+    return StoredProject::of(store, static_cast<int>(state.range(0)));
+}
+
+void openProject(benchmark::State& state, Store store) {
+    const StoredProject& project = projectOf(state, store);
     for (auto _ : state) {
         state.PauseTiming();
         std::optional<Workbench> workbench;
         shown(workbench);
         state.ResumeTiming();
-        open(*workbench, count);
+        open(*workbench, project);
         state.PauseTiming();
         expect(firstAnalysis(*workbench).data().toString() == QLatin1String("Well 0-0.S00"));
         workbench.reset();
@@ -109,12 +150,12 @@ void openProject(benchmark::State& state) {
 }
 
 /// One name among all, and then everything again.
-void findName(benchmark::State& state) {
-    const auto count = static_cast<int>(state.range(0));
+void findName(benchmark::State& state, Store store) {
+    const StoredProject& project = projectOf(state, store);
     std::optional<Workbench> workbench;
-    open(*shown(workbench), count);
+    open(*shown(workbench), project);
     auto& filter = *workbench->window().tree().findChild<QLineEdit*>();
-    const QString name = QStringLiteral("-%1.s00").arg(count - 1);
+    const QString name = QStringLiteral("-%1.s00").arg(state.range(0) - 1);
     for (auto _ : state) {
         filter.setText(name);
         settle();
@@ -127,9 +168,10 @@ void findName(benchmark::State& state) {
 }
 
 /// What nothing holds, so that all is looked through; what everything holds.
-void findText(benchmark::State& state, const QString& text) {
+void findText(benchmark::State& state, Store store, const QString& text) {
+    const StoredProject& project = projectOf(state, store);
     std::optional<Workbench> workbench;
-    open(*shown(workbench), static_cast<int>(state.range(0)));
+    open(*shown(workbench), project);
     auto& filter = *workbench->window().tree().findChild<QLineEdit*>();
     for (auto _ : state) {
         filter.setText(text);
@@ -142,8 +184,8 @@ void findText(benchmark::State& state, const QString& text) {
 }
 
 /// With the names looked up as every import does. Nothing is committed, so that the project stays as it is.
-void store1000(benchmark::State& state) {
-    const auto project = TechDB::TDatabase::open(StoredProject::of(static_cast<int>(state.range(0))).path());
+void store1000(benchmark::State& state, Store store) {
+    const auto project = TechDB::TDatabase::open(projectOf(state, store).place());
     for (auto _ : state) {
         const TechDB::Transaction takenBack(*project);
         for (int i = 0; i < 1000; ++i) {
@@ -153,17 +195,16 @@ void store1000(benchmark::State& state) {
 }
 
 /// What an open project and its tree take, once a name was looked for.
-void memory(benchmark::State& state) {
-    const auto count = static_cast<int>(state.range(0));
-    StoredProject::of(count);
+void memory(benchmark::State& state, Store store) {
+    const StoredProject& project = projectOf(state, store);
     std::size_t bytes = 0;
     for (auto _ : state) {
         std::optional<Workbench> workbench;
         shown(workbench);
         const std::size_t before = mallinfo2().uordblks;
-        open(*workbench, count);
+        open(*workbench, project);
         auto& filter = *workbench->window().tree().findChild<QLineEdit*>();
-        filter.setText(QStringLiteral("-%1.s00").arg(count - 1));
+        filter.setText(QStringLiteral("-%1.s00").arg(state.range(0) - 1));
         settle();
         filter.clear();
         settle();
@@ -172,24 +213,31 @@ void memory(benchmark::State& state) {
     state.counters["bytes"] = static_cast<double>(bytes);
 }
 
-void sizes(benchmark::internal::Benchmark* benchmark) {
-    benchmark->Arg(few)->Arg(many)->Unit(benchmark::kMillisecond);
+void registerAll(Store store) {
+    const auto add = [store](const std::string& name, const auto& measured, const auto&... rest) {
+        const std::string place = store == Store::File ? "/file" : "/server";
+        return benchmark::RegisterBenchmark((name + place).c_str(), measured, store, rest...)
+            ->Arg(few)
+            ->Arg(many)
+            ->Unit(benchmark::kMillisecond);
+    };
+    add("open", openProject);
+    add("find_name", findName);
+    add("find_nothing", findText, QStringLiteral("no name holds this"));
+    add("find_all", findText, QStringLiteral("e"));
+    add("store_1000", store1000);
+    add("memory", memory)->Iterations(1);
 }
-
-BENCHMARK(openProject)->Name("open")->Apply(sizes);
-BENCHMARK(findName)->Name("find_name")->Apply(sizes);
-BENCHMARK_CAPTURE(findText, nothing, QStringLiteral("no name holds this"))
-    ->Name("find_nothing")
-    ->Apply(sizes);
-BENCHMARK_CAPTURE(findText, all, QStringLiteral("e"))->Name("find_all")->Apply(sizes);
-BENCHMARK(store1000)->Name("store_1000")->Apply(sizes);
-BENCHMARK(memory)->Name("memory")->Iterations(1)->Apply(sizes);
 
 } // namespace
 
 int main(int argc, char** argv) {
     const DesktopApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
+    registerAll(Store::File);
+    if (!server().isEmpty()) {
+        registerAll(Store::Server);
+    }
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

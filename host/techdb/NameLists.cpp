@@ -34,9 +34,10 @@ ListedNames NameLists::analyses(const NameRange& range) const {
 }
 
 ListedNames NameLists::datasets(const NameRange& range) const {
+    // Not EXISTS: some planners read all samples for it, though only a page of datasets is asked for.
     return read(
-        QStringLiteral("SELECT t.id, t.sort_key, t.name, t.created, CASE WHEN EXISTS"
-                       " (SELECT 1 FROM samples s WHERE s.dataset_id = t.id) THEN 1 ELSE 0 END"
+        QStringLiteral("SELECT t.id, t.sort_key, t.name, t.created, (SELECT count(*) FROM"
+                       " (SELECT 1 FROM samples s WHERE s.dataset_id = t.id LIMIT 1) first_sample)"
                        " FROM datasets t WHERE"),
         {},
         QStringLiteral("(t.search_name LIKE ? ESCAPE '!' OR t.id IN"
