@@ -41,6 +41,14 @@ QString shown(const QString& path) {
     return QDir::toNativeSeparators(path).toHtmlEscaped();
 }
 
+constexpr int copyingSteps = 1000;
+
+TechDB::CopyProgress shownIn(TProgressBarMgr& bar) {
+    return [&bar](qint64 done, qint64 total) {
+        bar.setProgress(static_cast<int>(copyingSteps * done / std::max<qint64>(total, 1)), true);
+    };
+}
+
 } // namespace
 
 ProjectCommands::ProjectCommands(ProjectMgr& projects, ModuleLauncher& launcher, QWidget& window)
@@ -214,10 +222,8 @@ void ProjectCommands::askForServerCopy() {
     }
     attempt([&] {
         const QString shownAddress = TechDB::ServerAddress(address).shown();
-        TProgressBarMgr progress(1000, tr("Copying the project", "Copie du projet"), true);
-        m_projects.projectDatabase()->copyTo(address, [&progress](qint64 done, qint64 total) {
-            progress.setProgress(static_cast<int>(1000 * done / std::max<qint64>(total, 1)), true);
-        });
+        TProgressBarMgr bar(copyingSteps, tr("Copying the project", "Copie du projet"), true);
+        m_projects.projectDatabase()->copyTo(address, shownIn(bar));
         MessageLoggerInterface::Information(
             tr("The project was copied to <b>%1</b> and compared with it; it can be opened there.",
                "Le projet a été copié vers <b>%1</b> et comparé ; il peut y être ouvert.")
@@ -236,11 +242,13 @@ void ProjectCommands::askForBackup() {
         return;
     }
     const QString copy = withSuffix(path);
-    if (attempt([&] { project->backupTo(copy); })) {
+    attempt([&] {
+        TProgressBarMgr bar(copyingSteps, tr("Copying the project", "Copie du projet"), true);
+        project->backupTo(copy, shownIn(bar));
         MessageLoggerInterface::Information(tr("A copy of the project was saved as <b>%1</b>.",
                                                "Une copie du projet a été enregistrée : <b>%1</b>.")
                                                 .arg(shown(copy)));
-    }
+    });
 }
 
 void ProjectCommands::fillRecentMenu() {

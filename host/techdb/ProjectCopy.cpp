@@ -130,7 +130,7 @@ void ProjectCopy::prepareTarget() {
     }
 }
 
-void ProjectCopy::run(const Progress& progress) {
+void ProjectCopy::run(const CopyProgress& progress) {
     m_progress = progress;
     const SqlSnapshot oneState(m_source);
     m_total = 2 * objectCount();

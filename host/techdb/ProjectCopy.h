@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CopyProgress.h"
 #include "SqlConnection.h"
 
 #include <functional>
@@ -11,13 +12,11 @@ namespace TechDB {
 /// Until it is complete, the target is no project and can't be opened as one. Failures are thrown as VKError.
 class ProjectCopy {
 public:
-    /// Told after each step; a copy is compared once it is written, so that each object counts twice.
-    using Progress = std::function<void(qint64 done, qint64 total)>;
-
     /// Throws VKError unless the target is empty or holds such a copy of the source that broke off.
     ProjectCopy(SqlConnection& source, SqlConnection& target);
 
-    void run(const Progress& progress);
+    /// A copy is compared once it is written, so that each object counts twice as a step.
+    void run(const CopyProgress& progress);
 
 private:
     struct Group;
@@ -39,7 +38,7 @@ private:
 
     SqlConnection& m_source;
     SqlConnection& m_target;
-    Progress m_progress;
+    CopyProgress m_progress;
     qint64 m_done = 0;
     qint64 m_total = 0;
 };

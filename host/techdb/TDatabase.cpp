@@ -289,16 +289,17 @@ void TDatabase::followOthers() {
     connect(m_others.get(), &ForeignCommits::happened, this, &TDatabase::changedElsewhere);
 }
 
-void TDatabase::backupTo(const QString& path) const {
+void TDatabase::backupTo(const QString& path, const CopyProgress& progress) const {
     if (folder().isNull()) {
-        copyTo(path, [](qint64, qint64) {});
-    } else {
-        DatabaseFile::copy(*m_connection, path);
+        copyTo(path, progress);
+        return;
     }
+    progress(0, 1);
+    DatabaseFile::copy(*m_connection, path);
+    progress(1, 1);
 }
 
-void TDatabase::copyTo(const QString& place,
-                       const std::function<void(qint64 done, qint64 total)>& progress) const {
+void TDatabase::copyTo(const QString& place, const CopyProgress& progress) const {
     const auto copyInto = [&](SqlConnection& target) { ProjectCopy(*m_connection, target).run(progress); };
     if (ServerAddress::isAddress(place)) {
         copyInto(*DatabaseServer::connected(place, m_connection->kind()));

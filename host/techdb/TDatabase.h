@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CopyProgress.h"
 #include "NameRange.h"
 #include "ObjectChange.h"
 #include "ProjectSchema.h"
@@ -11,7 +12,6 @@
 #include <QSet>
 #include <QVector>
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -118,12 +118,11 @@ public:
     void followOthers();
 
     /// Writes a whole, checked copy into a file; what lies under the path is replaced once the copy is
-    /// complete.
-    void backupTo(const QString& path) const;
+    /// complete. The copy of a file is one step.
+    void backupTo(const QString& path, const CopyProgress& progress) const;
     /// Copies everything to a file or to a server and compares the two in the end (`ProjectCopy`). A call
-    /// that failed can be repeated: what is there already isn't written again. `progress` is told how many
-    /// steps of how many are done.
-    void copyTo(const QString& place, const std::function<void(qint64 done, qint64 total)>& progress) const;
+    /// that failed can be repeated: what is there already isn't written again.
+    void copyTo(const QString& place, const CopyProgress& progress) const;
     /// Reads all of the file and tells, one sentence each, what is wrong with it. Empty if nothing is.
     QStringList problems() const;
 

@@ -82,6 +82,8 @@ protected:
         return {};
     }
 
+    static void notShown(qint64 /*done*/, qint64 /*total*/) {}
+
     static TAnalysisData ramp(int points = 3) {
         std::vector<float> x;
         for (int i = 0; i < points; ++i) {

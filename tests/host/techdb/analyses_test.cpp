@@ -147,7 +147,7 @@ TEST_F(Analyses, stored_curves_that_lie_about_themselves_are_refused_with_an_err
                                 "DELETE FROM curves"};
     const VKObject2Analysis* analysis = database->addAnalysis("target", {}, ramp(3));
     const QString intact = path("intact.vornproj");
-    database->backupTo(intact);
+    database->backupTo(intact, notShown);
     for (const QString& statement : tampering) {
         sql({"PRAGMA ignore_check_constraints = ON", statement});
         MessageCollector log;

@@ -25,8 +25,6 @@ protected:
         }
     }
 
-    static void ignore(qint64, qint64) {}
-
     /// All that a person could see of a project.
     static QStringList contentOf(const TDatabase& project) {
         QStringList lines{project.projectId()};
@@ -67,7 +65,7 @@ TEST_F(Copies, hold_everything_under_the_same_keys_and_take_new_objects) {
     const QStringList content = contentOf(*database);
     EXPECT_EQ(contentOf(*copy), content);
     const QString back = path("back.vornproj");
-    copy->backupTo(back);
+    copy->backupTo(back, notShown);
     EXPECT_EQ(contentOf(*TDatabase::open(back)), content) << "there and back";
     EXPECT_EQ(failure([&] { copy->addAnalysis("one more", {}, ramp()); }), "");
     EXPECT_TRUE(copy->problems().isEmpty());
@@ -89,12 +87,13 @@ TEST_F(Copies, that_break_off_are_no_project_and_go_on_where_they_were) {
     database->renameAnalysis(database->getAnalysis("analysis 3")->key(), "renamed meanwhile");
     database->removeAnalysis(database->getAnalysis("analysis 200")->key());
     const auto foreign = TDatabase::create(path("foreign.vornproj"));
-    EXPECT_TRUE(says(failure([&] { foreign->copyTo(copyPlace(), ignore); }), "unfinished copy of another"));
+    EXPECT_TRUE(says(failure([&] { foreign->copyTo(copyPlace(), notShown); }), "unfinished copy of another"));
     EXPECT_THROW(database->copyTo(copyPlace(), stopsAt(400)), Stop);
-    database->copyTo(copyPlace(), ignore);
+    database->copyTo(copyPlace(), notShown);
     EXPECT_EQ(contentOf(*TDatabase::open(copyPlace())), contentOf(*database));
     if (other) {
-        EXPECT_TRUE(says(failure([&] { database->copyTo(copyPlace(), ignore); }), "holds a project already"));
+        EXPECT_TRUE(
+            says(failure([&] { database->copyTo(copyPlace(), notShown); }), "holds a project already"));
     }
 }
 

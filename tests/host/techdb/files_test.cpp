@@ -146,19 +146,19 @@ TEST_F(Files, a_backup_is_complete_and_takes_its_place_only_then) {
     write(copy, "old");
     {
         const TechDB::Transaction transaction(*database);
-        EXPECT_TRUE(says(failure([&] { database->backupTo(copy); }), "is being written"));
+        EXPECT_TRUE(says(failure([&] { database->backupTo(copy, notShown); }), "is being written"));
     }
-    EXPECT_TRUE(says(failure([&] { database->backupTo(path()); }), "the project itself"));
-    EXPECT_TRUE(says(failure([&] { database->backupTo(path("nowhere/c")); }), "was not written"));
+    EXPECT_TRUE(says(failure([&] { database->backupTo(path(), notShown); }), "the project itself"));
+    EXPECT_TRUE(says(failure([&] { database->backupTo(path("nowhere/c"), notShown); }), "was not written"));
     EXPECT_EQ(bytesOf(copy), "old");
 
-    database->backupTo(copy);
+    database->backupTo(copy, notShown);
     {
         const std::unique_ptr<TDatabase> opened = TDatabase::open(copy);
         EXPECT_EQ(opened->projectId(), database->projectId());
         EXPECT_EQ(opened->curve(opened->getAnalysis("A")->key()).y(), ramp().y());
         opened->addAnalysis("only in the copy", {}, ramp());
-        EXPECT_TRUE(says(failure([&] { database->backupTo(copy); }), "open in a window"));
+        EXPECT_TRUE(says(failure([&] { database->backupTo(copy, notShown); }), "open in a window"));
     }
     EXPECT_EQ(QFile::permissions(copy), QFile::permissions(path()));
     EXPECT_EQ(analysisNames(), QStringList("A"));
