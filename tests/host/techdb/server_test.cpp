@@ -207,6 +207,32 @@ TEST_F(Server, the_documented_rights_suffice_to_write_and_a_service_file_to_find
     ServerDatabase::onServer("DROP ROLE " + role);
 }
 
+TEST_F(Server, a_password_file_and_a_checked_certificate_work_as_the_client_library_has_them) {
+    ServerDatabase::onServer("CREATE ROLE keeper LOGIN PASSWORD 'se:cret' IN ROLE vorn");
+    EXPECT_TRUE(says(openingOf(server->address("keeper")), "no password supplied"));
+    write(path("passwords"), "127.0.0.1:*:*:keeper:se\\:cret\n");
+    QFile::setPermissions(path("passwords"), QFile::ReadOwner | QFile::WriteOwner);
+    qputenv("PGPASSFILE", path("passwords").toUtf8());
+    EXPECT_EQ(openingOf(server->address("keeper")), "");
+    qunsetenv("PGPASSFILE");
+    ServerDatabase::onServer("DROP ROLE keeper");
+
+    const QString certificate = qEnvironmentVariable("VORN_TEST_SERVER_DATA") + "/server.crt";
+    const QString checked = place().replace("127.0.0.1", "localhost") +
+                            "?sslmode=verify-full&sslrootcert=" + QUrl::toPercentEncoding(certificate);
+    EXPECT_TRUE(says(openingOf(checked), "does not support SSL"));
+    ServerDatabase::onServer("ALTER SYSTEM SET ssl = on");
+    control("reload");
+    QTest::qWait(300);
+    EXPECT_EQ(openingOf(checked), "");
+    EXPECT_TRUE(
+        ServerDatabase::run(checked, "SELECT ssl FROM pg_stat_ssl WHERE pid = pg_backend_pid()").toBool());
+    EXPECT_TRUE(
+        says(openingOf(QString(checked).replace("localhost", "127.0.0.1")), "does not match host name"));
+    ServerDatabase::onServer("ALTER SYSTEM RESET ssl");
+    control("reload");
+}
+
 TEST_F(Server, numbers_and_texts_keep_every_bit) {
     const qint64 well = database->addWell("D\\n'; --")->key();
     const QVector<QVariant> cells{
