@@ -1,0 +1,67 @@
+#pragma once
+
+#include "Answers.h"
+#include "Chance.h"
+#include "Hands.h"
+#include "Workbench.h"
+
+#include <QDir>
+#include <QStringList>
+
+class QTreeView;
+
+/// A user's hour in minutes: anything that can be done in the workbench, in any order. The same seed does the
+/// same again.
+class Walk {
+public:
+    /// Takes files from `folder`/files and writes into `folder`. A project should be open.
+    Walk(Workbench& workbench, const QDir& folder, unsigned seed);
+
+    /// Does what comes next, until nothing more follows from it, and gives its name.
+    const char* step();
+
+    /// Ends all that was opened and leaves the window as it was at its start.
+    static void tidyUp(Workbench& workbench);
+
+private:
+    struct Act {
+        const char* name;
+        void (Walk::*run)();
+    };
+    static const Act acts[];
+
+    void openProject();
+    void openExample();
+    void closeProject();
+    void importFiles();
+    void listFiles();
+    void startModule();
+    void closeModule();
+    void openCheck();
+    void send();
+    void dragFromTree();
+    void selectInCheck();
+    void moveSlider();
+    void openResults();
+    void filterTree();
+    void selectInTree();
+    void openBranches();
+    void renameInTree();
+    void runTreeCommand();
+    void runMenuEntry();
+    void closePage();
+    void speak();
+    void dress();
+    void resize();
+    void fiddle();
+
+    QStringList someFiles();
+    ImportModules::Kind someKind();
+    QTreeView& tree();
+
+    Workbench& m_workbench;
+    QDir m_folder;
+    Chance m_chance;
+    Hands m_hands;
+    Answers m_answers;
+};
