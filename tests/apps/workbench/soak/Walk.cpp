@@ -20,7 +20,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QPixmapCache>
 #include <QSlider>
 #include <QTest>
 #include <QTreeView>
@@ -84,9 +83,9 @@ const Walk::Act Walk::acts[] = {
     {"fiddle", &Walk::fiddle},
 };
 
-Walk::Walk(Workbench& workbench, const QDir& folder, unsigned seed)
-    : m_workbench(workbench), m_folder(folder), m_chance(seed), m_hands(m_chance),
-      m_answers(m_chance, folder.path()) {}
+Walk::Walk(Workbench& workbench, const Places& places, unsigned seed)
+    : m_workbench(workbench), m_places(places), m_chance(seed), m_hands(m_chance),
+      m_answers(m_chance, places.output.path()) {}
 
 const char* Walk::step() {
     const Act& act = acts[m_chance.below(static_cast<int>(std::size(acts)))];
@@ -111,14 +110,13 @@ void Walk::tidyUp(Workbench& workbench) {
         settle();
     }
     workbench.projects().close();
+    workbench.window().workspace().closePages(); // such as the guide, when no project was open
     workbench.window().tree().findChild<QLineEdit*>()->clear();
     workbench.language().choose(LanguageSwitch::Language::English);
     workbench.look().choose(LookSwitch::Scheme::Light);
     workbench.window().resize(1000, 700);
     settle();
     workbench.log().clear();
-    QPixmapCache::clear();
-    settle();
 }
 
 ImportModules::Kind Walk::someKind() {
@@ -130,7 +128,7 @@ QTreeView& Walk::tree() {
 }
 
 QStringList Walk::someFiles() {
-    const QDir files(m_folder.filePath(QStringLiteral("files")));
+    const QDir& files = m_places.files;
     const QStringList names = files.entryList(QDir::AllEntries | QDir::NoDot, QDir::Name);
     QStringList paths{files.filePath(m_chance.oneOf(names))};
     while (!m_chance.oneIn(3)) {
@@ -143,7 +141,8 @@ QStringList Walk::someFiles() {
 }
 
 void Walk::openProject() {
-    const QString path = m_folder.filePath(QString::number(m_chance.below(2)) + QStringLiteral(".vornproj"));
+    const QString path =
+        m_places.output.filePath(QString::number(m_chance.below(2)) + QStringLiteral(".vornproj"));
     if (QFile::exists(path)) {
         m_workbench.projectCommands().openProject(path);
     } else {

@@ -14,8 +14,13 @@ class QTreeView;
 /// same again.
 class Walk {
 public:
-    /// Takes files from `folder`/files and writes into `folder`. A project should be open.
-    Walk(Workbench& workbench, const QDir& folder, unsigned seed);
+    /// Where there are files to import, and where to write.
+    struct Places {
+        QDir files;
+        QDir output;
+    };
+
+    Walk(Workbench& workbench, const Places& places, unsigned seed);
 
     /// Does what comes next, until nothing more follows from it, and gives its name.
     const char* step();
@@ -60,7 +65,7 @@ private:
     QTreeView& tree();
 
     Workbench& m_workbench;
-    QDir m_folder;
+    Places m_places;
     Chance m_chance;
     Hands m_hands;
     Answers m_answers;
