@@ -21,8 +21,9 @@
 #include <unistd.h>
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
 #include <sanitizer/lsan_interface.h>
+
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // in a header of clang's alone
 #endif
 
 namespace {
