@@ -31,7 +31,7 @@ namespace {
 constexpr int stepsOfRound = 60;
 constexpr std::uint64_t longestCurve = 1300;
 constexpr int mostRecentProjects = 10; // each an entry of a menu
-constexpr double warmingUp = 700e3;    // bytes: fonts, letters and names that were not met before
+constexpr double warmingUp = 1.2e6;    // bytes: fonts, letters and names that were not met before
 constexpr double perRound = 8e3;       // bytes
 constexpr unsigned longestStep = 60;   // s
 
