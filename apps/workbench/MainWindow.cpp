@@ -21,6 +21,27 @@ constexpr int treeWidth = 320;
 constexpr int logHeight = 120;
 constexpr int smallestTree = 200;
 constexpr int smallestLog = 112;
+constexpr int largestExtent = 16'000; // more than screens have, less than a picture of the window may
+
+QVariantList sizesOf(const QSplitter& splitter) {
+    QVariantList sizes;
+    for (const int size : splitter.sizes()) {
+        sizes.append(size);
+    }
+    return sizes;
+}
+
+/// Not by the splitter's own state, which it believes whatever it says: a damaged one spreads the window
+/// beyond what can be painted.
+void restoreSizes(QSplitter& splitter, const QVariant& stored) {
+    QList<int> sizes;
+    for (const QVariant& size : stored.toList()) {
+        sizes.append(qBound(0, size.toInt(), largestExtent));
+    }
+    if (sizes.size() == splitter.count()) {
+        splitter.setSizes(sizes);
+    }
+}
 
 } // namespace
 
@@ -66,8 +87,9 @@ void MainWindow::restore() {
     m_columns->setSizes({treeWidth, width() - treeWidth});
     m_rows->setSizes({height() - logHeight, logHeight});
     restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
-    m_columns->restoreState(settings.value(QStringLiteral("window/columns")).toByteArray());
-    m_rows->restoreState(settings.value(QStringLiteral("window/rows")).toByteArray());
+    resize(size().boundedTo({largestExtent, largestExtent}));
+    restoreSizes(*m_columns, settings.value(QStringLiteral("window/columns")));
+    restoreSizes(*m_rows, settings.value(QStringLiteral("window/rows")));
 }
 
 void MainWindow::changeEvent(QEvent* event) {
@@ -85,7 +107,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     }
     QSettings settings;
     settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("window/columns"), m_columns->saveState());
-    settings.setValue(QStringLiteral("window/rows"), m_rows->saveState());
+    settings.setValue(QStringLiteral("window/columns"), sizesOf(*m_columns));
+    settings.setValue(QStringLiteral("window/rows"), sizesOf(*m_rows));
     QMainWindow::closeEvent(event);
 }

@@ -114,7 +114,8 @@ QStringList ProjectMgr::recentProjects() {
     QStringList there;
     const QStringList all = QSettings().value(recentKey).toStringList();
     for (const QString& path : all) {
-        if (ServerAddress::isAddress(path) || QFileInfo(path).isFile()) {
+        const bool isFile = !path.contains(QChar::Null) && QFileInfo(path).isFile();
+        if (ServerAddress::isAddress(path) || isFile) {
             there.append(path);
         }
     }

@@ -79,14 +79,14 @@ void ProjectView::sizeColumns() {
 }
 
 // NOLINTNEXTLINE(misc-no-recursion) as deep as the tree: three levels
-void ProjectView::spanNames(const QModelIndex& parent, int first, int last) {
+void ProjectView::spanNames(const QModelIndex& parent, int first, int last, bool span) {
     for (int row = first; row <= last; ++row) {
         const QModelIndex name = m_model.index(row, ProjectTreeModel::NameColumn, parent);
         const ProjectNode& node = m_model.node(name);
         if (node.kind != ProjectNode::Kind::Analysis && !node.created.isValid()) {
-            setFirstColumnSpanned(row, parent, true);
+            setFirstColumnSpanned(row, parent, span);
         }
-        spanNames(name, 0, m_model.rowCount(name) - 1);
+        spanNames(name, 0, m_model.rowCount(name) - 1, span);
     }
 }
 
@@ -187,8 +187,13 @@ void ProjectView::selectionChanged(const QItemSelection& selected, const QItemSe
 
 void ProjectView::rowsInserted(const QModelIndex& parent, int first, int last) {
     QTreeView::rowsInserted(parent, first, last);
-    spanNames(parent, first, last);
+    spanNames(parent, first, last, true);
     viewport()->update(); // the hint may lie where no row is painted
+}
+
+void ProjectView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) {
+    spanNames(parent, first, last, false); // QTreeView would remember them for good
+    QTreeView::rowsAboutToBeRemoved(parent, first, last);
 }
 
 void ProjectView::keyPressEvent(QKeyEvent* event) {

@@ -38,6 +38,7 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void rowsInserted(const QModelIndex& parent, int first, int last) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -54,7 +55,7 @@ private:
     void selectRestOfLists();
     void setUpHeader();
     void sizeColumns();
-    void spanNames(const QModelIndex& parent, int first, int last);
+    void spanNames(const QModelIndex& parent, int first, int last, bool span);
 
     ProjectTreeModel& m_model;
     QTimer m_pendingReading;

@@ -58,6 +58,10 @@ QString XlsxXml::text() {
 void XlsxXml::finish() {
     while (next() != QXmlStreamReader::EndDocument) {
     }
+    // Which the reader takes for a mere end: a wrong sum is found behind the last byte.
+    if (!m_part->failure().isEmpty()) {
+        fail(m_part->failure());
+    }
 }
 
 void XlsxXml::fail(const QString& cause) const {

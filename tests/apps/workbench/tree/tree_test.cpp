@@ -15,6 +15,8 @@
 
 #include <memory>
 
+#include <malloc.h>
+
 Q_DECLARE_METATYPE(const VKObject2*)
 
 namespace {
@@ -66,6 +68,26 @@ TEST_F(TreeTest, filter_keeps_hits_in_either_case_with_what_they_belong_to) {
     QTest::keyClick(&filter(), Qt::Key_Escape);
     EXPECT_EQ(names().size(), 10);
     EXPECT_FALSE(view().isExpanded(find(QStringLiteral("Other"))));
+}
+
+TEST_F(TreeTest, filters_leave_no_memory_behind) {
+    QStringList samples;
+    for (int i = 0; i < 30; ++i) {
+        samples.append(QString::number(i));
+    }
+    addDataset(QStringLiteral("Basin"), samples);
+    settle();
+    const auto heapAfter = [this](int filters) {
+        for (int i = 0; i < filters; ++i) {
+            filter().setText(QStringLiteral("no such name"));
+            settle();
+            filter().setText(QStringLiteral("1"));
+            settle();
+        }
+        return mallinfo2().uordblks; // zero under the address sanitizer
+    };
+    const auto before = heapAfter(50);
+    EXPECT_LT(heapAfter(300), before + 60'000);
 }
 
 TEST_F(TreeTest, rows_that_come_leave_branches_as_they_were) {

@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QSettings>
+#include <QSplitter>
 #include <QStandardPaths>
 #include <QTextBlock>
 #include <QToolButton>
@@ -30,10 +31,14 @@ TEST_F(Window, remembers_its_size_its_language_and_the_project) {
     workbench->projects().create(path("lab.vornproj"));
     workbench->language().choose(LanguageSwitch::Language::French);
     workbench->window().resize(903, 607);
+    const auto columns = [this] { return workbench->window().findChild<QSplitter*>("columns"); };
+    columns()->setSizes({250, 600});
+    const QList<int> sizes = columns()->sizes();
     workbench->window().close();
     start();
     workbench->projectCommands().openAtStart();
     EXPECT_EQ(workbench->window().size(), QSize(903, 607));
+    EXPECT_EQ(columns()->sizes(), sizes);
     EXPECT_EQ(LanguageSwitch::remembered(), LanguageSwitch::Language::French);
     EXPECT_TRUE(workbench->window().windowTitle().startsWith("lab "));
     EXPECT_EQ(ProjectMgr::recentProjects(), QStringList(path("lab.vornproj")));

@@ -106,6 +106,20 @@ TEST(XlsxReader, survives_a_file_cut_off_or_damaged_anywhere) {
     EXPECT_GT(refused, whole.size() / 2) << "most of the file is covered by sums";
 }
 
+// The parser is content once the root has ended, which may come before the sum is looked at.
+TEST(XlsxReader, refuses_each_part_whose_sum_is_wrong) {
+    PackedWorkbook packed("<row><c t=\"s\"><v>0</v></c></row>");
+    packed.compressed = false;
+    const QByteArray bytes = packed.bytes();
+    for (const char* const text : {"Sheet\" r:id", "shared</t>", "14\"/>", "0</v>", "sheet1.xml\"/>"}) {
+        QByteArray damaged = bytes;
+        const int at = damaged.indexOf(text);
+        ASSERT_GT(at, 0) << text;
+        damaged[at] = static_cast<char>(damaged[at] ^ 1);
+        expect("is damaged", damaged);
+    }
+}
+
 TEST(XlsxReader, refuses_xml_made_to_exhaust) {
     QElapsedTimer timer;
     timer.start();
