@@ -37,7 +37,8 @@ MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, ImportMo
       m_export(action(QStringLiteral("export"))),
       m_find(action(QStringLiteral("search"), QKeySequence::Find)),
       m_quit(action(QStringLiteral("close_project"), QKeySequence::Quit)),
-      m_guide(action(QStringLiteral("help"), QKeySequence::HelpContents)),
+      m_guide(action(QStringLiteral("help"))),
+      m_helpHere(action(QStringLiteral("help"), QKeySequence(Qt::Key_F1))),
       m_about(action(QStringLiteral("info"))) {
     buildMenus(projects);
     connectModules(imports, qualityCheck);
@@ -72,11 +73,12 @@ void MainMenu::buildMenus(const ProjectCommands& projects) {
     m_modules->addActions({m_qualityCheck, m_export});
     m_view->addMenu(m_languages);
     m_view->addMenu(m_looks);
-    m_help->addActions({m_guide, m_about});
+    m_help->addActions({m_guide, m_helpHere, m_about});
 
     connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
     connect(m_find, &QAction::triggered, &m_window.tree(), &ProjectTree::focusFilter);
     connect(m_guide, &QAction::triggered, this, [this] { emit helpRequested(0); });
+    connect(m_helpHere, &QAction::triggered, this, &MainMenu::helpHereRequested);
     connect(m_about, &QAction::triggered, this, &MainMenu::showAbout);
 }
 
@@ -170,6 +172,7 @@ void MainMenu::translate() {
     m_find->setText(tr("Find", "Rechercher"));
     m_quit->setText(tr("Quit", "Quitter"));
     m_guide->setText(tr("User guide", "Guide d'utilisation"));
+    m_helpHere->setText(tr("Help on what has the focus", "Aide sur l'élément actif"));
     m_about->setText(tr("About", "À propos"));
 }
 

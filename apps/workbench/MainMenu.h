@@ -28,6 +28,8 @@ public slots:
 
 signals:
     void helpRequested(int helpId);
+    /// The page of what has the focus.
+    void helpHereRequested();
 
 private:
     QAction* action(const QString& icon, const QKeySequence& shortcut = {});
@@ -59,6 +61,7 @@ private:
     QAction* m_light = nullptr;
     QAction* m_dark = nullptr;
     QAction* m_guide;
+    QAction* m_helpHere;
     QAction* m_about;
     VKRibbonGroup* m_projectGroup = nullptr;
     VKRibbonGroup* m_moduleGroup = nullptr;

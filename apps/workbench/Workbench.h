@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ApplicationHost.h"
+#include "HelpDesk.h"
 #include "ImportModules.h"
 #include "LanguageSwitch.h"
 #include "LookSwitch.h"
@@ -36,7 +37,6 @@ public:
 private:
     void wireProject();
     void wireTree();
-    void showHelp(int helpId);
     void showTitle();
 
     // Modules end before what they reach: the launcher is destroyed first of all they use.
@@ -44,6 +44,7 @@ private:
     LanguageSwitch m_language;
     LookSwitch m_look;
     MainWindow m_window;
+    HelpDesk m_help;
     RibbonHost m_ribbon;
     ApplicationHost m_application;
     ProjectMgr m_projects;

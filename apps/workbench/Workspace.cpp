@@ -114,6 +114,14 @@ void Workspace::addPage(QWidget* page) {
     bringToFront(page);
 }
 
+bool Workspace::showPage(QWidget* page) {
+    if (m_tabs->indexOf(page) < 0) {
+        return false;
+    }
+    bringToFront(page);
+    return true;
+}
+
 void Workspace::addCloseButton(QWidget* page, int index) {
     auto* const button = new QToolButton;
     button->setAutoRaise(true);

@@ -32,6 +32,8 @@ public:
     void addTable(std::unique_ptr<VKDataModel> model);
     /// Takes a page over and shows it in front, with a close button, under its window title.
     void addPage(QWidget* page);
+    /// Brings a page to the front; false if it isn't here (any more).
+    bool showPage(QWidget* page);
     QWidget* currentPage() const;
 
     /// Ends all pages that this object owns.
