@@ -26,6 +26,8 @@ MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, ImportMo
       m_view(window.menuBar()->addMenu(QString())), m_languages(new QMenu(&window)),
       m_looks(new QMenu(&window)), m_help(window.menuBar()->addMenu(QString())),
       m_languageChoice(new QActionGroup(this)), m_lookChoice(new QActionGroup(this)),
+      m_files(action(QStringLiteral("launch"), QKeySequence(Qt::CTRL + Qt::Key_I))),
+      m_folder(action(QStringLiteral("project_open"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_I))),
       m_sourceRock(action(QStringLiteral("modules/vorn_2015/Vorn_SourceRock_Import"),
                           QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_R))),
       m_gas(action(QStringLiteral("modules/vorn_2015/Vorn_Isotopes"),
@@ -68,6 +70,8 @@ void MainMenu::buildMenus(const ProjectCommands& projects) {
     m_objects->addSeparator();
     m_objects->addAction(m_find);
 
+    m_modules->addActions({m_files, m_folder});
+    m_modules->addSeparator();
     m_modules->addActions({m_sourceRock, m_gas, m_custom});
     m_modules->addSeparator();
     m_modules->addActions({m_qualityCheck, m_export});
@@ -75,6 +79,8 @@ void MainMenu::buildMenus(const ProjectCommands& projects) {
     m_view->addMenu(m_looks);
     m_help->addActions({m_guide, m_helpHere, m_about});
 
+    connect(m_files, &QAction::triggered, this, &MainMenu::filesRequested);
+    connect(m_folder, &QAction::triggered, this, &MainMenu::folderRequested);
     connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
     connect(m_find, &QAction::triggered, &m_window.tree(), &ProjectTree::focusFilter);
     connect(m_guide, &QAction::triggered, this, [this] { emit helpRequested(0); });
@@ -103,7 +109,7 @@ void MainMenu::buildStartBar(const ProjectCommands& projects) {
     m_projectGroup->addActionButton(projects.exampleAction());
     m_projectGroup->addActionButton(projects.backupAction());
     m_moduleGroup = bar->addGroup({});
-    for (QAction* const module : {m_sourceRock, m_gas, m_custom, m_qualityCheck}) {
+    for (QAction* const module : {m_files, m_sourceRock, m_gas, m_custom, m_qualityCheck}) {
         m_moduleGroup->addActionButton(module);
     }
     m_helpGroup = bar->addGroup({});
@@ -156,6 +162,10 @@ void MainMenu::translate() {
     m_projectGroup->setTitle(tr("Project", "Projet"));
     m_moduleGroup->setTitle(tr("Modules", "Modules"));
     m_helpGroup->setTitle(tr("Help", "Aide"));
+    m_files->setText(tr("Import files…", "Importer des fichiers…"));
+    m_files->setToolTip(tr("Bring files of any kind in; each goes to the module that reads it",
+                           "Importer des fichiers de tout type ; chacun va au module qui le lit"));
+    m_folder->setText(tr("Import a folder…", "Importer un dossier…"));
     m_sourceRock->setText(tr("Source rock import", "Import roche mère"));
     m_sourceRock->setToolTip(tr("Bring raw Rock-Eval files and tables of source rocks into the project",
                                 "Importer des fichiers Rock-Eval bruts et des tableaux de roches mères"));

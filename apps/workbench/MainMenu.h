@@ -27,6 +27,9 @@ public slots:
     void translate();
 
 signals:
+    /// Files, or a folder of them, are to be imported.
+    void filesRequested();
+    void folderRequested();
     void helpRequested(int helpId);
     /// The page of what has the focus.
     void helpHereRequested();
@@ -50,6 +53,8 @@ private:
     QMenu* m_help;
     QActionGroup* m_languageChoice;
     QActionGroup* m_lookChoice;
+    QAction* m_files;
+    QAction* m_folder;
     QAction* m_sourceRock;
     QAction* m_gas;
     QAction* m_custom;

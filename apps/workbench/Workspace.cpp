@@ -153,6 +153,10 @@ void Workspace::closeTab(int index) {
     showState();
 }
 
+void Workspace::closePage(QWidget* page) {
+    closeTab(m_tabs->indexOf(page));
+}
+
 void Workspace::closePages() {
     for (int index = m_tabs->count() - 1; index >= 0; --index) {
         closeTab(index);

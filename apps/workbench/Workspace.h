@@ -34,6 +34,8 @@ public:
     void addPage(QWidget* page);
     /// Brings a page to the front; false if it isn't here (any more).
     bool showPage(QWidget* page);
+    /// Ends a page that was added; nothing if it isn't here.
+    void closePage(QWidget* page);
     QWidget* currentPage() const;
 
     /// Ends all pages that this object owns.
