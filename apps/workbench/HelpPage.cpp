@@ -3,8 +3,11 @@
 #include "Guide.h"
 #include "MessageLoggerInterface.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QImage>
+#include <QScrollBar>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
@@ -31,10 +34,19 @@ HelpPage::HelpPage(int helpId, QWidget* parent) : QTextBrowser(parent) {
 
 void HelpPage::turnTo(int helpId) {
     const QString heading = Guide::headingFor(helpId);
-    m_wanted =
-        qMax(0, findHeading(headings(), [&](const QTextBlock& block) { return block.text() == heading; }));
-    if (isVisible()) {
-        showHeading(m_wanted);
+    showSoon(
+        qMax(0, findHeading(headings(), [&](const QTextBlock& block) { return block.text() == heading; })));
+}
+
+/// Once the page has its size, on which the places of the headings depend.
+void HelpPage::showSoon(int number) {
+    m_wanted = number;
+    QTimer::singleShot(0, this, &HelpPage::showWanted);
+}
+
+void HelpPage::showWanted() {
+    if (isVisible() && m_wanted >= 0) {
+        showHeading(std::exchange(m_wanted, -1));
     }
 }
 
@@ -49,12 +61,9 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
 
 void HelpPage::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) {
-        const int inSight = isVisible() ? headingInSight() : m_wanted;
+        const int inSight = m_wanted >= 0 ? m_wanted : headingInSight();
         translate();
-        m_wanted = inSight;
-        if (isVisible()) {
-            showHeading(inSight);
-        }
+        showSoon(inSight);
     }
     QTextBrowser::changeEvent(event);
 }
@@ -66,7 +75,7 @@ void HelpPage::translate() {
 
 void HelpPage::showEvent(QShowEvent* event) {
     QTextBrowser::showEvent(event);
-    showHeading(std::exchange(m_wanted, 0));
+    QTimer::singleShot(0, this, &HelpPage::showWanted);
 }
 
 void HelpPage::follow(const QUrl& link) {
@@ -97,12 +106,12 @@ QVector<QTextBlock> HelpPage::headings() const {
 }
 
 int HelpPage::headingInSight() const {
-    const int line = 2 * fontMetrics().height();
-    const int top = cursorForPosition(QPoint(0, line)).position();
+    const QPointF below(0, verticalScrollBar()->value() + fontMetrics().height());
+    const int top = document()->documentLayout()->hitTest(below, Qt::FuzzyHit);
     const QVector<QTextBlock> all = headings();
-    const auto below = std::find_if(all.cbegin(), all.cend(),
-                                    [top](const QTextBlock& block) { return block.position() > top; });
-    return qMax(0, static_cast<int>(below - all.cbegin()) - 1);
+    const auto next = std::find_if(all.cbegin(), all.cend(),
+                                   [top](const QTextBlock& block) { return block.position() > top; });
+    return qMax(0, static_cast<int>(next - all.cbegin()) - 1);
 }
 
 void HelpPage::showHeading(int number) {
@@ -111,6 +120,6 @@ void HelpPage::showHeading(int number) {
         moveCursor(QTextCursor::Start);
         return;
     }
-    moveCursor(QTextCursor::End); // so that the heading comes to the top, not to the bottom
     setTextCursor(QTextCursor(all[number]));
+    verticalScrollBar()->setValue(qRound(document()->documentLayout()->blockBoundingRect(all[number]).top()));
 }

@@ -24,11 +24,13 @@ protected:
 
 private:
     void translate();
+    void showSoon(int number);
+    void showWanted();
     void follow(const QUrl& link);
     /// Headings are counted from the start of the guide, which is 0; both languages have the same ones.
     int headingInSight() const;
     void showHeading(int number);
     QVector<QTextBlock> headings() const;
 
-    int m_wanted = 0; ///< the heading to be shown once there is room
+    int m_wanted = -1; ///< the heading to be shown soon; negative for none
 };

@@ -1,5 +1,6 @@
 #include "ImportTour.h"
 
+#include "DropDialog.h"
 #include "ModalAnswers.h"
 #include "PictureFolder.h"
 #include "ProjectTree.h"
@@ -86,4 +87,26 @@ void ImportTour::importTables() {
     openFromTree(table);
     PictureFolder::settle();
     m_pictures.write(QStringLiteral("dataset.png"), m_workbench.window());
+}
+
+void ImportTour::dropFolder() {
+    const QString folder = m_pictures.filePath("dropped");
+    carriedFiles(QStringLiteral(":/examples"), folder);
+    carriedFiles(QStringLiteral(":/tables"), folder + "/tables");
+    QFile notes(folder + "/notes.txt");
+    if (!notes.open(QIODevice::WriteOnly) || notes.write("to do") < 0) {
+        throw VKError(QStringLiteral("The file <b>%1</b> can't be written: check that its folder may be "
+                                     "written.")
+                          .arg(notes.fileName().toHtmlEscaped()));
+    }
+    notes.close();
+    ModalAnswers answers({QStringLiteral("Overwrite"), QStringLiteral("Écraser")});
+    answers.setObserver([this](QWidget& dialog) {
+        if (dynamic_cast<DropDialog*>(&dialog) != nullptr) {
+            m_pictures.write(QStringLiteral("drop.png"), dialog);
+        }
+    });
+    m_workbench.intake().take({folder});
+    PictureFolder::settle();
+    m_pictures.write(QStringLiteral("outcome.png"), m_workbench.window());
 }

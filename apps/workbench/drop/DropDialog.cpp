@@ -60,7 +60,7 @@ void DropDialog::addGroup(const DropGroups::Group& group) {
     auto* const row = new QTreeWidgetItem(m_list);
     row->setText(NameColumn, nameOf(group.kind));
     row->setText(CountColumn, QLocale().toString(group.files.size()));
-    row->setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
+    row->setTextAlignment(CountColumn, Qt::AlignCenter);
     addNames(*row, group);
     row->setExpanded(group.files.size() <= mostShownAtOnce);
     QComboBox* const box = choiceOf(group);

@@ -140,17 +140,20 @@ TEST_F(Window, f1_turns_the_guide_to_the_page_of_what_has_the_focus_above_a_dial
     const auto f1 = [this](QWidget* focus) {
         focus->setFocus();
         QTest::keyClick(focus, Qt::Key_F1);
+        settle();
         return workspace().findChild<HelpPage*>();
     };
     HelpPage* const page = f1(tree().findChild<QTreeView*>());
     ASSERT_NE(page, nullptr);
     EXPECT_EQ(heading(page), "The project tree");
-    EXPECT_EQ(f1(workbench->window().log().findChild<QAbstractItemView*>()), page) << "one guide, which turns";
+    EXPECT_EQ(f1(workbench->window().log().findChild<QAbstractItemView*>()), page)
+        << "one guide, which turns";
     EXPECT_EQ(heading(page), "Messages");
     workbench->imports().start(ImportModules::Kind::Gas);
     f1(workbench->imports().bar(ImportModules::Kind::Gas)->findChild<VKTreeWidget*>());
     EXPECT_EQ(heading(page), "Importing");
     ApplicationInterface::returnMe()->showHelp(4711);
+    settle();
     EXPECT_TRUE(page->textCursor().atStart()) << "no such page: the guide's start";
 
     QDialog dialog(&workbench->window());
