@@ -9,6 +9,7 @@
 #include "Workspace.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTreeView>
@@ -16,6 +17,14 @@
 namespace {
 
 using Kind = ImportModules::Kind;
+
+VKError cannotWrite(const QString& path) {
+    return VKError(QCoreApplication::translate(
+                       "ImportTour",
+                       "The file <b>%1</b> can't be written: check that its folder may be written.",
+                       "Le fichier <b>%1</b> ne peut pas être écrit : vérifiez que son dossier peut l'être.")
+                       .arg(path.toHtmlEscaped()));
+}
 
 /// On disk, where a user would have them.
 QStringList carriedFiles(const QString& from, const QString& to) {
@@ -26,10 +35,7 @@ QStringList carriedFiles(const QString& from, const QString& to) {
         const QString path = QDir(to).filePath(name);
         QFile::remove(path); // of an earlier run
         if (!QFile::copy(QDir(from).filePath(name), path)) {
-            throw VKError(
-                QStringLiteral("The example <b>%1</b> can't be written: check that its folder may be "
-                               "written.")
-                    .arg(path.toHtmlEscaped()));
+            throw cannotWrite(path);
         }
         paths.append(path);
     }
@@ -95,9 +101,7 @@ void ImportTour::dropFolder() {
     carriedFiles(QStringLiteral(":/tables"), folder + "/tables");
     QFile notes(folder + "/notes.txt");
     if (!notes.open(QIODevice::WriteOnly) || notes.write("to do") < 0) {
-        throw VKError(QStringLiteral("The file <b>%1</b> can't be written: check that its folder may be "
-                                     "written.")
-                          .arg(notes.fileName().toHtmlEscaped()));
+        throw cannotWrite(notes.fileName());
     }
     notes.close();
     ModalAnswers answers({QStringLiteral("Overwrite"), QStringLiteral("Écraser")});

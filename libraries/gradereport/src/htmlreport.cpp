@@ -105,7 +105,7 @@ void HtmlReport::writeSummary(std::ostream& out) const {
 }
 
 void HtmlReport::writeTable(std::ostream& out) const {
-    const std::string find = say("Find in file or reason", "Chercher dans le fichier ou la raison");
+    const std::string find = say("Find in file or reason", "Fichier ou raison");
     out << "<section aria-labelledby=\"files-title\">\n<div class=\"bar\"><h2 id=\"files-title\">"
         << say("Files", "Fichiers")
         << "</h2>\n"
