@@ -85,9 +85,9 @@ Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& se
     } catch (const rockeval::ReadError& error) {
         return gradereport::FailureRecord{path, failureText(path, error, language)};
     } catch (const std::bad_alloc&) {
-        return gradereport::FailureRecord{path,
-                                          path + said(language, ": there is not enough memory for this file.",
-                                                      " : la mémoire ne suffit pas pour ce fichier.")};
+        return gradereport::FailureRecord{
+            path, path + said(language, ": there is not enough memory for this file; grade fewer at once.",
+                              " : la mémoire ne suffit pas pour ce fichier ; évaluez-en moins à la fois.")};
     } catch (const std::exception& error) {
         return gradereport::FailureRecord{
             path,

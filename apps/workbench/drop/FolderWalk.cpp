@@ -34,7 +34,7 @@ void FolderWalk::take(const QFileInfo& entry, bool wasDropped) {
     }
     if (m_files.size() >= m_limit) {
         m_isFull = true;
-        refuse(path, tr("%1 files were found before it, and it and all that follows was not looked at; drop "
+        refuse(path, tr("%1 files were found before it, and neither it nor what follows was looked at; drop "
                         "fewer files at once",
                         "%1 fichiers ont été trouvés avant lui ; lui et la suite n'ont pas été examinés ; "
                         "déposez moins de fichiers à la fois")

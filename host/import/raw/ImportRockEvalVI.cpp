@@ -152,9 +152,11 @@ void ImportRockEvalVI::read() {
     } catch (const rockeval::ReadError& error) {
         MessageLoggerInterface::Error(remark(shown(m_name), error.line(), fromReader(error.problem())));
     } catch (const std::bad_alloc&) {
-        MessageLoggerInterface::Error(remark(
-            shown(m_name), 0,
-            tr("there is not enough memory for this file", "la mémoire ne suffit pas pour ce fichier")));
+        MessageLoggerInterface::Error(
+            remark(shown(m_name), 0,
+                   tr("there is not enough memory for this file; close other programs and import it again",
+                      "la mémoire ne suffit pas pour ce fichier ; fermez d'autres programmes et importez-le "
+                      "à nouveau")));
     } catch (const VKError& error) {
         MessageLoggerInterface::Error(error.text());
     }
