@@ -15,7 +15,7 @@ cd "$root"
 # shellcheck disable=SC2034 # used by the scripts that source this one
 build_packages=(cmake ninja-build g++ ccache rapidjson-dev libcli11-dev libssl-dev)
 # shellcheck disable=SC2034
-desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite libqt5sql5-psql qttools5-dev libqwt-qt5-dev libzip-dev fonts-dejavu-core)
+desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite libqt5sql5-psql qttranslations5-l10n qttools5-dev libqwt-qt5-dev libzip-dev fonts-dejavu-core)
 # shellcheck disable=SC2034
 test_packages=(libgtest-dev libxlsxwriter-dev openssl parallel postgresql)
 
@@ -62,15 +62,15 @@ cmake_runs() {
     return $status
 }
 
-# sql_driver NAME: it is loaded by name when a project is opened; nothing that builds would miss it.
-sql_driver() {
+# qt_file FOLDER PATTERN: what is loaded by name at run time; nothing that builds would miss it.
+qt_file() {
     # shellcheck disable=SC2016 # the variables are CMake's
-    cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Core Sql)' \
+    cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Core)' \
         'get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)' \
-        'execute_process(COMMAND ${qmake} -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE plugins
-            OUTPUT_STRIP_TRAILING_WHITESPACE)' \
-        "file(GLOB driver \"\${plugins}/sqldrivers/*$1*\")" \
-        'if(NOT driver)' 'message(FATAL_ERROR "no driver")' 'endif()'
+        "execute_process(COMMAND \${qmake} -query $1 OUTPUT_VARIABLE folder
+            OUTPUT_STRIP_TRAILING_WHITESPACE)" \
+        "file(GLOB found \"\${folder}/$2\")" \
+        'if(NOT found)' 'message(FATAL_ERROR "no such file")' 'endif()'
 }
 
 font() {
@@ -92,8 +92,9 @@ usable() {
         libxlsxwriter-dev) header xlsxwriter.h ;;
         qtbase5-dev) cmake_runs 'find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui PrintSupport Sql Test Widgets)' ;;
         libqt5svg5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Svg)' ;;
-        libqt5sql5-sqlite) sql_driver qsqlite ;;
-        libqt5sql5-psql) sql_driver qsqlpsql ;;
+        libqt5sql5-sqlite) qt_file QT_INSTALL_PLUGINS 'sqldrivers/*qsqlite*' ;;
+        qttranslations5-l10n) qt_file QT_INSTALL_TRANSLATIONS qtbase_fr.qm ;;
+        libqt5sql5-psql) qt_file QT_INSTALL_PLUGINS 'sqldrivers/*qsqlpsql*' ;;
         qttools5-dev) cmake_runs 'find_package(Qt5 REQUIRED COMPONENTS Core LinguistTools)' ;;
         postgresql) scripts/with-server true ;;
         libzip-dev) cmake_runs 'find_package(LibZip REQUIRED)' ;;

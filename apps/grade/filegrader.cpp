@@ -4,6 +4,7 @@
 #include "digest.h"
 #include "gradereport/gradekind.h"
 #include "rockeval/channels.h"
+#include "rockeval/french.h"
 #include "rockeval/readbytes.h"
 #include "rockeval/readerror.h"
 #include "rockeval/signalreader.h"
@@ -12,6 +13,7 @@
 
 #include <exception>
 #include <new>
+#include <string_view>
 #include <utility>
 
 namespace grade {
@@ -20,12 +22,36 @@ namespace {
 
 using Values = std::vector<double>;
 
-std::string warningText(const rockeval::Warning& warning) {
-    return warning.line == 0 ? warning.text : "line " + std::to_string(warning.line) + ": " + warning.text;
+using gradereport::Language;
+using gradereport::said;
+
+std::string remark(std::string_view english, Language language) {
+    return language == Language::french ? rockeval::inFrench(english) : std::string(english);
+}
+
+std::string warningText(const rockeval::Warning& warning, Language language) {
+    const std::string text = remark(warning.text, language);
+    return warning.line == 0 ? text
+                             : said(language, "line ", "ligne ") + std::to_string(warning.line) +
+                                   said(language, ": ", " : ") + text;
+}
+
+std::string failureText(const std::string& path, const rockeval::ReadError& error, Language language) {
+    if (language == Language::english) {
+        return error.what();
+    }
+    const std::string place = error.line() == 0 ? path : path + ", ligne " + std::to_string(error.line());
+    return place + " : " + remark(error.problem(), language) + ".";
+}
+
+std::string tooManyPoints(Language language) {
+    return said(language, "the curve has more than ", "la courbe a plus de ") + std::to_string(maxPoints) +
+           said(language, " points, which no pyrolysis takes; check what the file is",
+                " points, plus qu'aucune pyrolyse ; vérifiez ce qu'est ce fichier");
 }
 
 Outcome graded(const std::string& path, const gradereport::EngineSettings& settings,
-               gradereport::Curves curves, const DoneInputs& done) {
+               gradereport::Curves curves, const DoneInputs& done, Language language) {
     const std::string bytes = rockeval::readBytes(path);
     std::string digest = sha256(bytes);
     if (done.contains(digest)) {
@@ -34,20 +60,18 @@ Outcome graded(const std::string& path, const gradereport::EngineSettings& setti
     const rockeval::RawSignal read = rockeval::readSignal(bytes, path);
     const rockeval::Channels channels = rockeval::toChannels(read.curve);
     if (channels.time.size() > maxPoints) {
-        throw rockeval::ReadError(path, 0,
-                                  "the curve has more than " + std::to_string(maxPoints) +
-                                      " points, which no pyrolysis takes; check what the file is");
+        throw rockeval::ReadError(path, 0, tooManyPoints(language));
     }
     auto signal = algo::sr_qaqc::rawSignal<double, Values>(channels.time.data(), channels.fid.data(),
                                                            static_cast<int>(channels.time.size()));
     const auto grading = algo::sr_qaqc::grade(signal, settings);
 
-    GradedFile file{gradereport::describe(*signal, grading, settings, curves), std::move(signal)};
+    GradedFile file{gradereport::describe(*signal, grading, settings, curves, language), std::move(signal)};
     file.record.file = path;
     file.record.name = gradereport::fileNameOf(path);
     file.record.sha256 = std::move(digest);
     for (const rockeval::Warning& warning : read.warnings) {
-        file.record.warnings.push_back(warningText(warning));
+        file.record.warnings.push_back(warningText(warning, language));
     }
     return file;
 }
@@ -55,17 +79,22 @@ Outcome graded(const std::string& path, const gradereport::EngineSettings& setti
 } // namespace
 
 Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& settings,
-                  gradereport::Curves curves, const DoneInputs& done) {
+                  gradereport::Curves curves, const DoneInputs& done, Language language) {
     try {
-        return graded(path, settings, curves, done);
+        return graded(path, settings, curves, done, language);
     } catch (const rockeval::ReadError& error) {
-        return gradereport::FailureRecord{path, error.what()};
+        return gradereport::FailureRecord{path, failureText(path, error, language)};
     } catch (const std::bad_alloc&) {
-        return gradereport::FailureRecord{path, path + ": there is not enough memory for this file."};
+        return gradereport::FailureRecord{
+            path, path + said(language, ": there is not enough memory for this file; grade fewer at once.",
+                              " : la mémoire ne suffit pas pour ce fichier ; évaluez-en moins à la fois.")};
     } catch (const std::exception& error) {
         return gradereport::FailureRecord{
-            path, path + ": the curve can't be graded, check that it spans a whole heating (" +
-                      algo::core::messageOf(error.what()) + ")."};
+            path,
+            path +
+                said(language, ": the curve can't be graded, check that it spans a whole heating (",
+                     " : la courbe ne peut pas être évaluée, vérifiez qu'elle couvre toute une chauffe (") +
+                algo::core::messageOf(error.what()) + ")."};
     }
 }
 

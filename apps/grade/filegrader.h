@@ -26,8 +26,9 @@ using Outcome = std::variant<GradedFile, gradereport::FailureRecord, DoneBefore>
 constexpr std::size_t maxPoints = 200000;
 
 /// Reads one raw file and grades it, unless its bytes are among those that are `done`. Whatever goes wrong
-/// becomes a failure with a sentence, never an exception.
+/// becomes a failure with a sentence, never an exception. The language is that of all sentences.
 [[nodiscard]] Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& settings,
-                                gradereport::Curves curves, const DoneInputs& done = {});
+                                gradereport::Curves curves, const DoneInputs& done = {},
+                                gradereport::Language language = gradereport::Language::english);
 
 } // namespace grade

@@ -104,7 +104,7 @@ private:
         }
         const auto curves = m_options.report ? gradereport::Curves::included : gradereport::Curves::leftOut;
         for (const std::string& path : inputs.files) {
-            const Outcome outcome = gradeFile(path, m_options.settings, curves, m_done);
+            const Outcome outcome = gradeFile(path, m_options.settings, curves, m_done, m_options.language);
             progress.clear();
             std::visit([this](const auto& result) { take(result); }, outcome);
             progress.step();
@@ -160,7 +160,7 @@ int run(const Options& options, const Console& console) {
     Job job(options, console, std::move(done));
     job.addOutput(formattedOutput(options.format, console.out, console.terminal));
     if (report.wanted()) {
-        job.addOutput(reportOutput(options.settings, report.stream()));
+        job.addOutput(reportOutput(options.settings, options.language, report.stream()));
     }
     if (machineLearning.wanted()) {
         job.addOutput(machineLearningOutput(machineLearning.stream()));

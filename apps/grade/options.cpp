@@ -41,6 +41,11 @@ void describe(CLI::App& app, Options& options) {
         ->capture_default_str();
     app.add_option("--format", options.format, "table, csv or json (one object a line)")
         ->transform(CLI::CheckedTransformer(formats, CLI::ignore_case).description("table|csv|json"));
+    static const std::map<std::string, gradereport::Language> languages = {
+        {"en", gradereport::Language::english}, {"fr", gradereport::Language::french}};
+    app.add_option("--language", options.language,
+                   "of the report, and of reasons, warnings and failures in all outputs")
+        ->transform(CLI::CheckedTransformer(languages, CLI::ignore_case).description("en|fr"));
     auto* report =
         app.add_option("--report", options.report, "write an HTML report with all curves to this file")
             ->type_name("FILE");

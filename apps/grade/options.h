@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gradereport/language.h"
 #include "pathlist.h"
 #include "sourcerockqaqc/srqaqcsettings.h"
 
@@ -16,11 +17,12 @@ enum class Format { table, csv, json };
 struct Options {
     algo::sr_qaqc::SourceRockQAQCSettings<double, std::vector<double>> settings;
     Format format = Format::table;
-    std::optional<std::string> report;          ///< file of the HTML report
-    std::optional<std::string> machineLearning; ///< file of the matrix and labels
-    std::optional<std::string> skipDone;        ///< file of an earlier run's JSON lines
-    std::vector<std::string> paths;             ///< at least one
-    PathEnd listedPathEnd = PathEnd::line;      ///< in standard input, where a path is "-"
+    gradereport::Language language = gradereport::Language::english; ///< of sentences and of the report
+    std::optional<std::string> report;                               ///< file of the HTML report
+    std::optional<std::string> machineLearning;                      ///< file of the matrix and labels
+    std::optional<std::string> skipDone;                             ///< file of an earlier run's JSON lines
+    std::vector<std::string> paths;                                  ///< at least one
+    PathEnd listedPathEnd = PathEnd::line; ///< in standard input, where a path is "-"
 };
 
 /// What came of reading the command line: options to work with, or the status to end with.

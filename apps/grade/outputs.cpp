@@ -57,8 +57,9 @@ private:
 
 class ReportOutput final : public WriterOutput<gradereport::HtmlReport> {
 public:
-    ReportOutput(const gradereport::GradeSettings& settings, std::ostream& out)
-        : WriterOutput(settings, version()), m_out(out) {}
+    ReportOutput(const gradereport::GradeSettings& settings, gradereport::Language language,
+                 std::ostream& out)
+        : WriterOutput(settings, version(), language), m_out(out) {}
     void finish() override { writer().write(m_out); }
 
 private:
@@ -101,9 +102,10 @@ std::unique_ptr<Output> formattedOutput(Format format, std::ostream& out, const 
     return std::make_unique<TableOutput>(out, terminal.colour, terminal.width);
 }
 
-std::unique_ptr<Output> reportOutput(const gradereport::EngineSettings& settings, std::ostream& out) {
+std::unique_ptr<Output> reportOutput(const gradereport::EngineSettings& settings,
+                                     gradereport::Language language, std::ostream& out) {
     const gradereport::GradeSettings shown{settings.sensitivity, settings.coelution, settings.heightCriteria};
-    return std::make_unique<ReportOutput>(shown, out);
+    return std::make_unique<ReportOutput>(shown, language, out);
 }
 
 std::unique_ptr<Output> machineLearningOutput(std::ostream& out) {

@@ -38,7 +38,7 @@ struct Terminal {
 
 /// The HTML report, written to `out` when it is finished.
 [[nodiscard]] std::unique_ptr<Output> reportOutput(const gradereport::EngineSettings& settings,
-                                                   std::ostream& out);
+                                                   gradereport::Language language, std::ostream& out);
 
 /// The curves and grades for machine learning.
 [[nodiscard]] std::unique_ptr<Output> machineLearningOutput(std::ostream& out);

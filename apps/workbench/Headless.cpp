@@ -83,6 +83,7 @@ void runIn(Workbench& workbench, const QString& folder) {
     tour.importRawFiles();
     gradeAll(workbench, pictures);
     tour.importTables();
+    tour.dropFolder();
     printMessages(workbench.log());
 }
 

@@ -7,14 +7,15 @@
 #include "RibbonHost.h"
 #include "SourceRockCtrl.h"
 #include "VKTreeWidget.h"
+#include "WatchedImport.h"
 
 #include <QMimeData>
 #include <QUrl>
 
 #include <memory>
 
-ImportModules::ImportModules(RibbonHost& ribbon, ModuleLauncher& launcher)
-    : m_ribbon(ribbon), m_launcher(launcher) {}
+ImportModules::ImportModules(RibbonHost& ribbon, ModuleLauncher& launcher, ImportListener& listener)
+    : m_ribbon(ribbon), m_launcher(launcher), m_listener(listener) {}
 
 void ImportModules::start(Kind kind) {
     if (bar(kind) != nullptr) {
@@ -22,6 +23,8 @@ void ImportModules::start(Kind kind) {
         return;
     }
     m_bars[kind] = m_ribbon.barAddedBy([this, kind] { make(kind); });
+    // Behind the module's own connection: its pass is through by then. By name, as the plug-in hides the bar.
+    connect(m_bars[kind], SIGNAL(importAsked()), this, SLOT(endPass()));
 }
 
 void ImportModules::importFiles(Kind kind, const QStringList& paths) {
@@ -39,17 +42,27 @@ void ImportModules::importFiles(Kind kind, const QStringList& paths) {
 void ImportModules::make(Kind kind) {
     switch (kind) {
     case Kind::SourceRock:
-        return make<SourceRockCtrl>();
+        return make<SourceRockCtrl>(kind);
     case Kind::Gas:
-        return make<GasDataCtrl>();
+        return make<GasDataCtrl>(kind);
     case Kind::Custom:
-        return make<CustomImportCtrl>();
+        return make<CustomImportCtrl>(kind);
     }
 }
 
 template <class Controller>
-void ImportModules::make() {
-    auto controller = std::make_unique<Controller>();
+void ImportModules::make(Kind kind) {
+    auto controller = std::make_unique<WatchedImport<Controller>>(m_listener);
     controller->createEditor();
+    m_codes[kind] = [module = controller.get()] { return module->files(); };
     m_launcher.adopt(controller.release());
+}
+
+void ImportModules::endPass() {
+    for (auto bar = m_bars.cbegin(); bar != m_bars.cend(); ++bar) {
+        if (bar.value() == sender()) {
+            m_listener.passEnded(m_codes.value(bar.key())());
+            return;
+        }
+    }
 }

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "ImportListener.h"
 #include "VKRibbonModuleBar.h"
 
 #include <QMap>
 #include <QObject>
 #include <QPointer>
+
+#include <functional>
 
 class ModuleLauncher;
 class RibbonHost;
@@ -16,8 +19,8 @@ class ImportModules : public QObject {
 public:
     enum class Kind { SourceRock, Gas, Custom };
 
-    /// Both outlive this object.
-    ImportModules(RibbonHost& ribbon, ModuleLauncher& launcher);
+    /// All outlive this object. The listener hears of each pass of a module, whoever asked for it.
+    ImportModules(RibbonHost& ribbon, ModuleLauncher& launcher, ImportListener& listener);
 
     /// Opens the module, or brings it to front.
     void start(Kind kind);
@@ -28,12 +31,17 @@ public:
     /// Null while the module isn't open.
     VKRibbonModuleBar* bar(Kind kind) const { return m_bars.value(kind).data(); }
 
+private slots:
+    void endPass();
+
 private:
     void make(Kind kind);
     template <class Controller>
-    void make();
+    void make(Kind kind);
 
     RibbonHost& m_ribbon;
     ModuleLauncher& m_launcher;
+    ImportListener& m_listener;
     QMap<Kind, QPointer<VKRibbonModuleBar>> m_bars;
+    QMap<Kind, std::function<ImportListener::Codes()>> m_codes; // of the files of an open module
 };

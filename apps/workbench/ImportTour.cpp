@@ -1,5 +1,6 @@
 #include "ImportTour.h"
 
+#include "DropDialog.h"
 #include "ModalAnswers.h"
 #include "PictureFolder.h"
 #include "ProjectTree.h"
@@ -8,6 +9,7 @@
 #include "Workspace.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTreeView>
@@ -15,6 +17,14 @@
 namespace {
 
 using Kind = ImportModules::Kind;
+
+VKError cannotWrite(const QString& path) {
+    return VKError(QCoreApplication::translate(
+                       "ImportTour",
+                       "The file <b>%1</b> can't be written: check that its folder may be written.",
+                       "Le fichier <b>%1</b> ne peut pas être écrit : vérifiez que son dossier peut l'être.")
+                       .arg(path.toHtmlEscaped()));
+}
 
 /// On disk, where a user would have them.
 QStringList carriedFiles(const QString& from, const QString& to) {
@@ -25,10 +35,7 @@ QStringList carriedFiles(const QString& from, const QString& to) {
         const QString path = QDir(to).filePath(name);
         QFile::remove(path); // of an earlier run
         if (!QFile::copy(QDir(from).filePath(name), path)) {
-            throw VKError(
-                QStringLiteral("The example <b>%1</b> can't be written: check that its folder may be "
-                               "written.")
-                    .arg(path.toHtmlEscaped()));
+            throw cannotWrite(path);
         }
         paths.append(path);
     }
@@ -86,4 +93,24 @@ void ImportTour::importTables() {
     openFromTree(table);
     PictureFolder::settle();
     m_pictures.write(QStringLiteral("dataset.png"), m_workbench.window());
+}
+
+void ImportTour::dropFolder() {
+    const QString folder = m_pictures.filePath("dropped");
+    carriedFiles(QStringLiteral(":/examples"), folder);
+    carriedFiles(QStringLiteral(":/tables"), folder + "/tables");
+    QFile notes(folder + "/notes.txt");
+    if (!notes.open(QIODevice::WriteOnly) || notes.write("to do") < 0) {
+        throw cannotWrite(notes.fileName());
+    }
+    notes.close();
+    ModalAnswers answers({QStringLiteral("Overwrite"), QStringLiteral("Écraser")});
+    answers.setObserver([this](QWidget& dialog) {
+        if (dynamic_cast<DropDialog*>(&dialog) != nullptr) {
+            m_pictures.write(QStringLiteral("drop.png"), dialog);
+        }
+    });
+    m_workbench.intake().take({folder});
+    PictureFolder::settle();
+    m_pictures.write(QStringLiteral("outcome.png"), m_workbench.window());
 }

@@ -20,6 +20,10 @@ public:
     /// one of unknown columns, so that the questions and messages of a second import come too.
     void importTables();
 
+    /// A folder of files of several kinds, dropped on the window, with pictures of what is asked before and
+    /// told after it.
+    void dropFolder();
+
 private:
     void openFromTree(const QString& end);
     void closeModule(ImportModules::Kind kind);

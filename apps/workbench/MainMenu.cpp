@@ -26,6 +26,8 @@ MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, ImportMo
       m_view(window.menuBar()->addMenu(QString())), m_languages(new QMenu(&window)),
       m_looks(new QMenu(&window)), m_help(window.menuBar()->addMenu(QString())),
       m_languageChoice(new QActionGroup(this)), m_lookChoice(new QActionGroup(this)),
+      m_files(action(QStringLiteral("launch"), QKeySequence(Qt::CTRL + Qt::Key_I))),
+      m_folder(action(QStringLiteral("project_open"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_I))),
       m_sourceRock(action(QStringLiteral("modules/vorn_2015/Vorn_SourceRock_Import"),
                           QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_R))),
       m_gas(action(QStringLiteral("modules/vorn_2015/Vorn_Isotopes"),
@@ -37,7 +39,8 @@ MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, ImportMo
       m_export(action(QStringLiteral("export"))),
       m_find(action(QStringLiteral("search"), QKeySequence::Find)),
       m_quit(action(QStringLiteral("close_project"), QKeySequence::Quit)),
-      m_guide(action(QStringLiteral("help"), QKeySequence::HelpContents)),
+      m_guide(action(QStringLiteral("help"))),
+      m_helpHere(action(QStringLiteral("help"), QKeySequence(Qt::Key_F1))),
       m_about(action(QStringLiteral("info"))) {
     buildMenus(projects);
     connectModules(imports, qualityCheck);
@@ -67,16 +70,21 @@ void MainMenu::buildMenus(const ProjectCommands& projects) {
     m_objects->addSeparator();
     m_objects->addAction(m_find);
 
+    m_modules->addActions({m_files, m_folder});
+    m_modules->addSeparator();
     m_modules->addActions({m_sourceRock, m_gas, m_custom});
     m_modules->addSeparator();
     m_modules->addActions({m_qualityCheck, m_export});
     m_view->addMenu(m_languages);
     m_view->addMenu(m_looks);
-    m_help->addActions({m_guide, m_about});
+    m_help->addActions({m_guide, m_helpHere, m_about});
 
+    connect(m_files, &QAction::triggered, this, &MainMenu::filesRequested);
+    connect(m_folder, &QAction::triggered, this, &MainMenu::folderRequested);
     connect(m_quit, &QAction::triggered, &m_window, &QWidget::close);
     connect(m_find, &QAction::triggered, &m_window.tree(), &ProjectTree::focusFilter);
     connect(m_guide, &QAction::triggered, this, [this] { emit helpRequested(0); });
+    connect(m_helpHere, &QAction::triggered, this, &MainMenu::helpHereRequested);
     connect(m_about, &QAction::triggered, this, &MainMenu::showAbout);
 }
 
@@ -101,7 +109,7 @@ void MainMenu::buildStartBar(const ProjectCommands& projects) {
     m_projectGroup->addActionButton(projects.exampleAction());
     m_projectGroup->addActionButton(projects.backupAction());
     m_moduleGroup = bar->addGroup({});
-    for (QAction* const module : {m_sourceRock, m_gas, m_custom, m_qualityCheck}) {
+    for (QAction* const module : {m_files, m_sourceRock, m_gas, m_custom, m_qualityCheck}) {
         m_moduleGroup->addActionButton(module);
     }
     m_helpGroup = bar->addGroup({});
@@ -154,6 +162,10 @@ void MainMenu::translate() {
     m_projectGroup->setTitle(tr("Project", "Projet"));
     m_moduleGroup->setTitle(tr("Modules", "Modules"));
     m_helpGroup->setTitle(tr("Help", "Aide"));
+    m_files->setText(tr("Import files…", "Importer des fichiers…"));
+    m_files->setToolTip(tr("Bring files of any kind in; each goes to the module that reads it",
+                           "Importer des fichiers de tout type ; chacun va au module qui le lit"));
+    m_folder->setText(tr("Import a folder…", "Importer un dossier…"));
     m_sourceRock->setText(tr("Source rock import", "Import roche mère"));
     m_sourceRock->setToolTip(tr("Bring raw Rock-Eval files and tables of source rocks into the project",
                                 "Importer des fichiers Rock-Eval bruts et des tableaux de roches mères"));
@@ -170,6 +182,7 @@ void MainMenu::translate() {
     m_find->setText(tr("Find", "Rechercher"));
     m_quit->setText(tr("Quit", "Quitter"));
     m_guide->setText(tr("User guide", "Guide d'utilisation"));
+    m_helpHere->setText(tr("Help on what has the focus", "Aide sur l'élément actif"));
     m_about->setText(tr("About", "À propos"));
 }
 

@@ -27,7 +27,12 @@ public slots:
     void translate();
 
 signals:
+    /// Files, or a folder of them, are to be imported.
+    void filesRequested();
+    void folderRequested();
     void helpRequested(int helpId);
+    /// The page of what has the focus.
+    void helpHereRequested();
 
 private:
     QAction* action(const QString& icon, const QKeySequence& shortcut = {});
@@ -48,6 +53,8 @@ private:
     QMenu* m_help;
     QActionGroup* m_languageChoice;
     QActionGroup* m_lookChoice;
+    QAction* m_files;
+    QAction* m_folder;
     QAction* m_sourceRock;
     QAction* m_gas;
     QAction* m_custom;
@@ -59,6 +66,7 @@ private:
     QAction* m_light = nullptr;
     QAction* m_dark = nullptr;
     QAction* m_guide;
+    QAction* m_helpHere;
     QAction* m_about;
     VKRibbonGroup* m_projectGroup = nullptr;
     VKRibbonGroup* m_moduleGroup = nullptr;

@@ -25,9 +25,11 @@ PictureFolder::PictureFolder(const QString& path) : m_folder(path) {
 void PictureFolder::write(const QString& name, QWidget& widget) const {
     const QString path = filePath(name);
     if (!widget.grab().save(path)) {
-        throw VKError(
-            QStringLiteral("The picture <b>%1</b> can't be written: check that its folder may be written.")
-                .arg(path.toHtmlEscaped()));
+        throw VKError(QCoreApplication::translate(
+                          "PictureFolder",
+                          "The picture <b>%1</b> can't be written: check that its folder may be written.",
+                          "L'image <b>%1</b> ne peut pas être écrite : vérifiez que son dossier peut l'être.")
+                          .arg(path.toHtmlEscaped()));
     }
     tell(path);
 }

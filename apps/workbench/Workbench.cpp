@@ -1,6 +1,5 @@
 #include "Workbench.h"
 
-#include "HelpPage.h"
 #include "MainMenu.h"
 #include "ProjectTree.h"
 #include "TDatabase.h"
@@ -12,9 +11,12 @@
 #include <QLocale>
 
 Workbench::Workbench()
-    : m_window(m_log), m_ribbon(m_window.ribbon()), m_application(m_window), m_launcher(m_window.workspace()),
-      m_imports(m_ribbon, m_launcher), m_qualityCheck(m_ribbon, m_launcher, m_window.workspace()),
-      m_projectCommands(m_projects, m_launcher, m_window), m_objectCommands(m_launcher, m_window),
+    : m_window(m_log), m_help(m_window.workspace()), m_ribbon(m_window.ribbon()), m_application(m_window),
+      m_launcher(m_window.workspace()), m_outcomes(m_log), m_imports(m_ribbon, m_launcher, m_outcomes),
+      m_qualityCheck(m_ribbon, m_launcher, m_window.workspace()),
+      m_projectCommands(m_projects, m_launcher, m_window),
+      m_intake({m_window, m_window.workspace(), m_projects, m_projectCommands, m_imports, m_outcomes}),
+      m_fileDrop(m_window), m_objectCommands(m_launcher, m_window),
       m_menu(new MainMenu(m_window, m_projectCommands, m_imports, m_qualityCheck, m_language, m_look)) {
     MessageLoggerInterface::setDefaultLogger(&m_log);
     wireProject();
@@ -25,8 +27,12 @@ Workbench::Workbench()
     // Number boxes write as their window does.
     connect(&m_language, &LanguageSwitch::languageChanged, &m_window,
             [this] { m_window.setLocale(QLocale()); });
-    connect(m_menu, &MainMenu::helpRequested, this, &Workbench::showHelp);
-    connect(&m_application, &ApplicationHost::helpRequested, this, &Workbench::showHelp);
+    connect(&m_fileDrop, &FileDrop::dropped, &m_intake, &FileIntake::take);
+    connect(m_menu, &MainMenu::filesRequested, &m_intake, &FileIntake::askForFiles);
+    connect(m_menu, &MainMenu::folderRequested, &m_intake, &FileIntake::askForFolder);
+    connect(m_menu, &MainMenu::helpRequested, &m_help, &HelpDesk::show);
+    connect(m_menu, &MainMenu::helpHereRequested, &m_help, &HelpDesk::showForFocus);
+    connect(&m_application, &ApplicationHost::helpRequested, &m_help, &HelpDesk::show);
     m_window.setCloseGuard([this] { return m_launcher.closeAll(); });
     showTitle();
 }
@@ -53,10 +59,6 @@ void Workbench::wireTree() {
     connect(&tree, &ProjectTree::openRequested, &m_objectCommands, &ObjectCommands::open);
     connect(&tree, &ProjectTree::exportRequested, &m_objectCommands, &ObjectCommands::exportCsv);
     connect(&tree, &ProjectTree::sendRequested, &m_qualityCheck, &QualityCheck::send);
-}
-
-void Workbench::showHelp(int helpId) {
-    m_window.workspace().addPage(new HelpPage(helpId));
 }
 
 void Workbench::showTitle() {

@@ -1,7 +1,11 @@
 #pragma once
 
 #include "ApplicationHost.h"
+#include "FileDrop.h"
+#include "FileIntake.h"
+#include "HelpDesk.h"
 #include "ImportModules.h"
+#include "ImportOutcomes.h"
 #include "LanguageSwitch.h"
 #include "LookSwitch.h"
 #include "MainWindow.h"
@@ -29,6 +33,7 @@ public:
     ProjectMgr& projects() { return m_projects; }
     ProjectCommands& projectCommands() { return m_projectCommands; }
     ImportModules& imports() { return m_imports; }
+    FileIntake& intake() { return m_intake; }
     QualityCheck& qualityCheck() { return m_qualityCheck; }
     LanguageSwitch& language() { return m_language; }
     LookSwitch& look() { return m_look; }
@@ -36,7 +41,6 @@ public:
 private:
     void wireProject();
     void wireTree();
-    void showHelp(int helpId);
     void showTitle();
 
     // Modules end before what they reach: the launcher is destroyed first of all they use.
@@ -44,13 +48,17 @@ private:
     LanguageSwitch m_language;
     LookSwitch m_look;
     MainWindow m_window;
+    HelpDesk m_help;
     RibbonHost m_ribbon;
     ApplicationHost m_application;
     ProjectMgr m_projects;
     ModuleLauncher m_launcher;
+    ImportOutcomes m_outcomes;
     ImportModules m_imports;
     QualityCheck m_qualityCheck;
     ProjectCommands m_projectCommands;
+    FileIntake m_intake;
+    FileDrop m_fileDrop;
     ObjectCommands m_objectCommands;
     MainMenu* m_menu;
 };

@@ -44,11 +44,13 @@ void Workspace::changeEvent(QEvent* event) {
 }
 
 void Workspace::translate() {
-    m_empty->setTexts(tr("No curves on screen", "Aucune courbe à l'écran"),
-                      tr("Open the quality check and drop analyses from the project on its list, then select "
-                         "signals there to see their curves.",
-                         "Ouvrez le contrôle qualité, déposez des analyses du projet sur sa liste, puis "
-                         "sélectionnez-y des signaux pour voir leurs courbes."));
+    m_empty->setTexts(tr("Nothing on screen yet", "Rien à l'écran pour l'instant"),
+                      tr("Drop files or folders anywhere on this window to import them. To see curves and "
+                         "grades, select analyses in the project at the left and press Ctrl+Enter. F1 opens "
+                         "the guide.",
+                         "Déposez des fichiers ou des dossiers n'importe où dans cette fenêtre pour les "
+                         "importer. Pour voir des courbes et leurs évaluations, sélectionnez des analyses "
+                         "dans le projet, à gauche, et appuyez sur Ctrl+Entrée. F1 ouvre le guide."));
     for (int index = 0; index < m_tabs->count(); ++index) {
         if (QWidget* const button = m_tabs->tabBar()->tabButton(index, QTabBar::RightSide)) {
             button->setToolTip(tr("Close (Ctrl+F4)", "Fermer (Ctrl+F4)"));
@@ -114,6 +116,14 @@ void Workspace::addPage(QWidget* page) {
     bringToFront(page);
 }
 
+bool Workspace::showPage(QWidget* page) {
+    if (m_tabs->indexOf(page) < 0) {
+        return false;
+    }
+    bringToFront(page);
+    return true;
+}
+
 void Workspace::addCloseButton(QWidget* page, int index) {
     auto* const button = new QToolButton;
     button->setAutoRaise(true);
@@ -143,6 +153,10 @@ void Workspace::closeTab(int index) {
     m_tabs->removeTab(index);
     page->deleteLater();
     showState();
+}
+
+void Workspace::closePage(QWidget* page) {
+    closeTab(m_tabs->indexOf(page));
 }
 
 void Workspace::closePages() {

@@ -32,6 +32,10 @@ public:
     void addTable(std::unique_ptr<VKDataModel> model);
     /// Takes a page over and shows it in front, with a close button, under its window title.
     void addPage(QWidget* page);
+    /// Brings a page to the front; false if it isn't here (any more).
+    bool showPage(QWidget* page);
+    /// Ends a page that was added; nothing if it isn't here.
+    void closePage(QWidget* page);
     QWidget* currentPage() const;
 
     /// Ends all pages that this object owns.

@@ -32,11 +32,11 @@ double numberOf(const QString& value) {
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
     if (!isNumber || !std::isfinite(number)) {
-        throw VKError(
-            CatalogueView::tr("<b>%1</b> is not a value that the catalogue can take; it takes numbers.",
-                              "<b>%1</b> n'est pas une valeur pour le catalogue ; il prend des "
-                              "nombres.")
-                .arg(value.toHtmlEscaped()));
+        throw VKError(CatalogueView::tr("<b>%1</b> is not a value that the catalogue can take; it takes "
+                                        "numbers; correct it and import the file again.",
+                                        "<b>%1</b> n'est pas une valeur pour le catalogue ; il prend des "
+                                        "nombres ; corrigez-la et importez à nouveau le fichier.")
+                          .arg(value.toHtmlEscaped()));
     }
     return number;
 }
@@ -49,9 +49,10 @@ CatalogueStore CatalogueView::store() const {
 
 CatalogueStore CatalogueView::storeToWrite() const {
     if (m_scope == Scope::Published) {
-        throw VKError(
-            tr("The published catalogue takes nothing but what is published from the working one.",
-               "Le catalogue publié ne prend que ce qui est publié depuis le catalogue de travail."));
+        throw VKError(tr("The published catalogue takes nothing but what is published from the working one; "
+                         "write it there and publish it.",
+                         "Le catalogue publié ne prend que ce qui est publié depuis le catalogue de travail "
+                         "; écrivez-le là et publiez-le."));
     }
     return store();
 }
@@ -138,8 +139,9 @@ VKObject2* CatalogueView::findByName(const QString& name) {
 VKVornRecord* CatalogueView::addCompound(TechDB::TVornCompound* compound, const QString& value) {
     return answered([&]() -> VKVornRecord* {
         if (compound == nullptr) {
-            throw VKError(tr("There is no compound to add to the catalogue.",
-                             "Il n'y a pas de composé à ajouter au catalogue."));
+            throw VKError(
+                tr("There is no compound to add to the catalogue; import the file again.",
+                   "Il n'y a pas de composé à ajouter au catalogue ; importez à nouveau le fichier."));
         }
         compound->setName(tidiedName(compound->name()));
         return m_catalogue.record(VKObjectType::Compound,

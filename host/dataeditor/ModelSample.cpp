@@ -56,7 +56,10 @@ QVariant cell(const QModelIndex& index, int role) {
     throw VKError(translated("The value in row %1, column %2 is neither a number nor a text.",
                              "La valeur en ligne %1, colonne %2 n'est ni un nombre ni un texte.")
                       .arg(index.row() + 1)
-                      .arg(index.column() + 1));
+                      .arg(index.column() + 1),
+                  {},
+                  translated("Correct it in the file and import the file again.",
+                             "Corrigez-la dans le fichier et importez-le à nouveau."));
 }
 
 } // namespace

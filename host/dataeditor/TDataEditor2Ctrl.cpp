@@ -82,7 +82,10 @@ DatasetWriter& TDataEditor2Ctrl::writerFor(TechDB::TDatabase& database) {
     }
     if (m_writer->database() != &database) {
         throw VKError(tr("What is saved together can't go to two projects.",
-                         "Ce qui est enregistré ensemble ne peut pas aller dans deux projets."));
+                         "Ce qui est enregistré ensemble ne peut pas aller dans deux projets."),
+                      {},
+                      tr("Import the file into one of them, then into the other.",
+                         "Importez le fichier dans l'un, puis dans l'autre."));
     }
     return *m_writer;
 }

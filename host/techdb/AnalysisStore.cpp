@@ -41,7 +41,9 @@ AnalysisInfo analysisOf(const QSqlQuery& row) {
 
 [[noreturn]] void throwGone() {
     throw VKError(
-        translated("The analysis is no longer in the project.", "L'analyse n'est plus dans le projet."));
+        translated("The analysis is no longer in the project.", "L'analyse n'est plus dans le projet."), {},
+        translated("Another window has deleted it: import its file again.",
+                   "Une autre fenêtre l'a supprimée : importez à nouveau son fichier."));
 }
 
 [[noreturn]] void throwDamaged(const QString& name, const QString& reason) {

@@ -33,7 +33,8 @@ QVariant valueOrNone(double value) {
 [[noreturn]] void throwUnknown(const QString& name) {
     throw VKError(
         translated("The catalogue doesn't hold <b>%1</b>.", "Le catalogue ne contient pas <b>%1</b>.")
-            .arg(name.toHtmlEscaped()));
+            .arg(name.toHtmlEscaped()),
+        {}, translated("Import the file that brings it.", "Importez le fichier qui l'apporte."));
 }
 
 /// Runs an INSERT whose name the database itself keeps unique.

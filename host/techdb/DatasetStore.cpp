@@ -56,7 +56,10 @@ SampleInfo sampleFrom(const QSqlQuery& row) {
 
 [[noreturn]] void throwGone() {
     throw VKError(translated("The dataset is no longer in the project.",
-                             "L'ensemble de données n'est plus dans le projet."));
+                             "L'ensemble de données n'est plus dans le projet."),
+                  {},
+                  translated("Another window has deleted it: import its file again.",
+                             "Une autre fenêtre l'a supprimé : importez à nouveau son fichier."));
 }
 
 } // namespace
@@ -145,8 +148,11 @@ qint64 DatasetStore::datasetOf(qint64 sample) const {
     m_connection.select(QStringLiteral("SELECT dataset_id FROM samples WHERE id = ?"), {sample},
                         [&dataset](const QSqlQuery& row) { dataset = row.value(0).toLongLong(); });
     if (dataset == 0) {
-        throw VKError(translated("The sample is no longer in the project.",
-                                 "L'échantillon n'est plus dans le projet."));
+        throw VKError(
+            translated("The sample is no longer in the project.", "L'échantillon n'est plus dans le projet."),
+            {},
+            translated("Another window has deleted it: import its file again.",
+                       "Une autre fenêtre l'a supprimé : importez à nouveau son fichier."));
     }
     return dataset;
 }

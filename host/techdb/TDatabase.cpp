@@ -183,9 +183,10 @@ bool TDatabase::analysisData(const VKObject2Analysis* analysis, TAnalysisData** 
     }
     *data = nullptr;
     if (analysis == nullptr || analysis->db() == nullptr) {
-        MessageLoggerInterface::Error(tr("No curve is stored for an object that stands in no project.",
-                                         "Aucune courbe n'est enregistrée pour un objet qui n'est dans aucun "
-                                         "projet."));
+        MessageLoggerInterface::Error(
+            tr("No curve is stored for an object that stands in no project: import its file first.",
+               "Aucune courbe n'est enregistrée pour un objet qui n'est dans aucun "
+               "projet : importez d'abord son fichier."));
         return false;
     }
     TDatabase& database = *analysis->db();

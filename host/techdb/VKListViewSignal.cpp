@@ -4,7 +4,9 @@
 
 VKListViewSignal::VKListViewSignal(QWidget* parent, bool several) : VKListViewVKObject2(parent) {
     setSelectionMode(several ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
-    setDropText(tr("Drop analyses here", "Déposez des analyses ici"));
+    setDropText(
+        tr("Drop analyses here, or select them in the project and press Ctrl+Enter",
+           "Déposez des analyses ici, ou sélectionnez-les dans le projet et appuyez sur Ctrl+Entrée"));
 }
 
 VKListViewSignal::~VKListViewSignal() = default;

@@ -1,18 +1,23 @@
 #pragma once
 
+#include "HelpId.h"
+#include "HelpInterface.h"
 #include "TLooseParts.h"
+
 #include <QWidget>
 
 namespace TechPlot {
 
 /// Base of the plot area's editors: a widget that holds viewers. It is open from its construction until
 /// `close` or its end, and owns what was made for it and stands in no viewer (see TNode).
-class TEditor : public QWidget {
+class TEditor : public QWidget, public HelpInterface {
     Q_OBJECT
 
 public:
     explicit TEditor(QWidget* parent = nullptr);
     ~TEditor() override;
+
+    int getIdForHelp() const override { return HelpId::curves; }
 
     /// Fits the viewers to the space there is.
     virtual void adjustViewers() = 0;

@@ -125,7 +125,9 @@ QByteArray encode(const Viewers& viewers, const QFileInfo& file) {
 
 void TPlotExport::write(const QVector<const VKViewer2D*>& viewers, const QString& fileName) {
     if (viewers.isEmpty())
-        throw VKError(Texts::tr("There is no curve to save.", "Il n'y a pas de courbe à enregistrer."));
+        throw VKError(Texts::tr(
+            "There is no curve to save: select one in the module's list first.",
+            "Il n'y a pas de courbe à enregistrer : sélectionnez-en d'abord une dans la liste du module."));
     const QByteArray content = encode(viewers, QFileInfo(fileName));
     QSaveFile file(fileName);
     if (!content.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&

@@ -57,6 +57,31 @@ TEST(HtmlReport, a_grade_is_told_by_word_shape_and_numbers) {
         << "whatever the grade, only the peak below the threshold has the square";
 }
 
+TEST(HtmlReport, speaks_french_when_asked_and_leaves_no_english_word) {
+    HtmlReport report({}, "1.2", Language::french);
+    GradeRecord record = graded(2);
+    record.file = record.name = "a.S00";
+    record.reason.clear();
+    record.warnings.assign(21, "w");
+    report.add(record);
+    report.addFailure({"b.S00", "e"});
+    std::ostringstream out;
+    report.write(out);
+    const std::string page = out.str().substr(0, out.str().find("<script>"));
+    checkedTags(out.str());
+    EXPECT_EQ(page.find("<html lang=\"fr\">"), page.find("<html"));
+    std::string texts; // between the tags, and what is read aloud
+    for (const char* const begin : {">", "title=\"", "label=\"", "placeholder=\"", "words=\""})
+        for (const std::string& text :
+             between(page.substr(page.find("</style>")), begin, *begin == '>' ? "<" : "\""))
+            texts += " " + text;
+    for (const char* const word :
+         {" of ", "File", "Peak", "Grade", "Height", "height", "Mean", "Reason", "Curve", "peak", "warning",
+          " and ", "Find", "shown", "signal</", "failed", "Left"})
+        EXPECT_EQ(texts.find(word), std::string::npos) << word << " in" << texts;
+    EXPECT_NE(texts.find("Pic à 70.1 s"), std::string::npos);
+}
+
 TEST(HtmlReport, hostile_text_stays_text) {
     const std::vector<std::string> names{
         "\"><script>alert(1)</script>", "</style><b onload='x'>&amp;", "<!--",

@@ -128,3 +128,25 @@ TEST(Describe, the_record_repeats_what_the_engine_decided) {
     const auto bare = gradereport::describe(*curves()[3], grading, settings, gradereport::Curves::leftOut);
     EXPECT_TRUE(bare.raw.x.empty() && bare.smoothed.x.empty());
 }
+
+TEST(Reason, is_told_in_french_with_the_same_numbers) {
+    const EngineSettings settings;
+    const auto numbers = [](const std::string& text) {
+        std::string found;
+        for (const char c : text)
+            found += (c >= '0' && c <= '9') || c == '.' ? c : ' ';
+        found.erase(
+            std::unique(found.begin(), found.end(), [](char a, char b) { return a == ' ' && b == ' '; }),
+            found.end());
+        return found;
+    };
+    for (const auto& each : curves()) {
+        const auto grading = algo::sr_qaqc::grade(each, settings);
+        const std::string english = gradeReason(grading, settings);
+        const std::string french = gradeReason(grading, settings, gradereport::Language::french);
+        EXPECT_EQ(numbers(french), numbers(english)) << french;
+        EXPECT_EQ(french.rfind("Il ", 0), 0U) << french;
+        for (const char* const word : {" and ", "peak", " stand", "would", " at ", "limit ", " more", " or "})
+            EXPECT_EQ(french.find(word), std::string::npos) << french;
+    }
+}

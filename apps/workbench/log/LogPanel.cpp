@@ -166,10 +166,14 @@ void LogPanel::showState() {
     m_copy->setEnabled(m_list->selectionModel()->hasSelection());
     m_copyAll->setEnabled(any);
     m_clear->setEnabled(m_model.rowCount() > 0);
-    m_list->setPlaceholder(m_model.rowCount() > 0
-                               ? tr("No message of the levels switched on contains the text.",
-                                    "Aucun message des niveaux activés ne contient le texte.")
-                               : tr("Messages appear here.", "Les messages s'affichent ici."));
+    m_list->setPlaceholder(
+        m_model.rowCount() > 0
+            ? tr("No message of the levels switched on contains the text: switch on more levels, or clear "
+                 "the text.",
+                 "Aucun message des niveaux activés ne contient le texte : activez d'autres niveaux, ou "
+                 "effacez le texte.")
+            : tr("Messages appear here: what was done, and what to do if something fails.",
+                 "Les messages s'affichent ici : ce qui a été fait, et que faire en cas d'échec."));
 }
 
 void LogPanel::retranslate() {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "HelpId.h"
+#include "HelpInterface.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -17,11 +20,13 @@ class QToolBar;
 /// The list follows the newest message as long as its end is in sight. Levels are switched on and off, all
 /// but details are on at first; a text typed in leaves the messages that contain it. The model must live as
 /// long as the panel.
-class LogPanel : public QWidget {
+class LogPanel : public QWidget, public HelpInterface {
     Q_OBJECT
 
 public:
     explicit LogPanel(MessageLogModel& model, QWidget* parent = nullptr);
+
+    int getIdForHelp() const override { return HelpId::messages; }
 
     /// Puts messages on the clipboard, oldest first, one a line: time, level and plain text, with tabs
     /// between them. Line ends and tabs within a text become blanks.

@@ -31,9 +31,10 @@ std::unique_ptr<VKDataModel> datasetTable(const TechDB::TDatabase& database, qin
 std::unique_ptr<VKDataModel> contentsOf(const VKObject2& object) {
     const TechDB::TDatabase* const database = object.db();
     if (database == nullptr) {
-        throw VKError(Texts::tr("<b>%1</b> is not stored in a project.",
-                                "<b>%1</b> n'est enregistré dans aucun projet.")
-                          .arg(object.displayName().toHtmlEscaped()));
+        throw VKError(
+            Texts::tr("<b>%1</b> is not stored in a project; import its file first.",
+                      "<b>%1</b> n'est enregistré dans aucun projet ; importez d'abord son fichier.")
+                .arg(object.displayName().toHtmlEscaped()));
     }
     if (object.type() == VKObjectType::Well) {
         return datasetTable(*database, object.key());

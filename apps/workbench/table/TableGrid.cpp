@@ -115,5 +115,9 @@ void TableGrid::paintEvent(QPaintEvent* event) {
     if (m_order.rowCount() > 0) {
         return;
     }
-    TEmptyHint::paint(viewport(), tr("No rows.", "Aucune ligne."));
+    TEmptyHint::paint(
+        viewport(),
+        tr("No rows yet.\n\nA table of results fills as analyses are dropped on the quality check.",
+           "Aucune ligne pour l'instant.\n\nUn tableau de résultats se remplit quand des analyses sont "
+           "déposées sur le contrôle qualité."));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "HelpId.h"
+#include "HelpInterface.h"
 #include "VKDataModel.h"
 
 #include <QWidget>
@@ -15,13 +17,15 @@ class TableOrder;
 /// A click on a column's header sorts by it, a second one the other way round, a third one gives the model's
 /// order back. Cells may change without a signal: what is painted is what the model answers at that moment,
 /// and `refreshCells` has the page follow at once. Nothing is edited here.
-class TableView : public QWidget {
+class TableView : public QWidget, public HelpInterface {
     Q_OBJECT
 
 public:
     /// The model must not be null.
     explicit TableView(std::unique_ptr<VKDataModel> model, QWidget* parent = nullptr);
     ~TableView() override;
+
+    int getIdForHelp() const override { return HelpId::tables; }
 
     VKDataModel* model() const { return m_model.get(); }
 

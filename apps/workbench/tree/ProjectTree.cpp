@@ -193,13 +193,15 @@ void ProjectTree::updateState() {
 
 void ProjectTree::updateHint() {
     if (m_project == nullptr) {
-        m_view->setHint(tr("No project is open.\n\nOpen one, or make a new one.",
-                           "Aucun projet n'est ouvert.\n\nOuvrez-en un, ou créez-en un nouveau."));
-    } else if (m_model->isEmpty()) {
         m_view->setHint(tr(
-            "This project holds nothing yet.\n\nDrop raw files on an import module, or open another project.",
-            "Ce projet ne contient encore rien.\n\nDéposez des fichiers bruts sur un module d'import, ou "
-            "ouvrez un autre projet."));
+            "No project is open.\n\nOpen one (Ctrl+O), make a new one (Ctrl+N), or drop one on the window.",
+            "Aucun projet n'est ouvert.\n\nOuvrez-en un (Ctrl+O), créez-en un nouveau (Ctrl+N), ou "
+            "déposez-en un dans la fenêtre."));
+    } else if (m_model->isEmpty()) {
+        m_view->setHint(tr("This project holds nothing yet.\n\nDrop files or folders anywhere on the window, "
+                           "or choose them with Ctrl+I.",
+                           "Ce projet ne contient encore rien.\n\nDéposez des fichiers ou des dossiers "
+                           "n'importe où dans la fenêtre, ou choisissez-les avec Ctrl+I."));
     } else {
         m_view->setHint(tr("No name holds “%1”.\n\nClear the filter to see everything.",
                            "Aucun nom ne contient « %1 ».\n\nEffacez le filtre pour tout voir.")

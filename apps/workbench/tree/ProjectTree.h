@@ -1,5 +1,8 @@
 #pragma once
 
+#include "HelpId.h"
+#include "HelpInterface.h"
+
 #include <QList>
 #include <QModelIndex>
 #include <QTimer>
@@ -20,12 +23,14 @@ class TDatabase;
 /// analyses, each in the natural order of their names. Follows what is changed in the project by whatever
 /// part of the application; selection and expansion stay with the objects. What fails is told by
 /// VKError::dispatchError.
-class ProjectTree : public QWidget {
+class ProjectTree : public QWidget, public HelpInterface {
     Q_OBJECT
 
 public:
     explicit ProjectTree(QWidget* parent = nullptr);
     ~ProjectTree() override;
+
+    int getIdForHelp() const override { return HelpId::tree; }
 
     /// The project to be shown, null if none is open. Not owned; to be told before it closes.
     void setProject(TechDB::TDatabase* project);

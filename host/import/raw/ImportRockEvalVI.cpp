@@ -8,6 +8,7 @@
 #include "VKDataModelGeneric.h"
 #include "VKError.h"
 #include "rockeval/channels.h"
+#include "rockeval/french.h"
 #include "rockeval/readbytes.h"
 #include "rockeval/readerror.h"
 #include "rockeval/resultreader.h"
@@ -30,8 +31,11 @@ QString shown(const QString& path) {
     return QFileInfo(path).fileName().toHtmlEscaped();
 }
 
+/// The readers know no translator, but French.
 QString fromReader(const std::string& text) {
-    return QString::fromStdString(text).toHtmlEscaped();
+    const QByteArray french = QByteArray::fromStdString(rockeval::inFrench(text));
+    const QByteArray english = QByteArray::fromStdString(text);
+    return ImportRockEvalVI::tr(english.constData(), french.constData()).toHtmlEscaped();
 }
 
 std::string_view viewOf(const QByteArray& bytes) {
@@ -148,9 +152,11 @@ void ImportRockEvalVI::read() {
     } catch (const rockeval::ReadError& error) {
         MessageLoggerInterface::Error(remark(shown(m_name), error.line(), fromReader(error.problem())));
     } catch (const std::bad_alloc&) {
-        MessageLoggerInterface::Error(remark(
-            shown(m_name), 0,
-            tr("there is not enough memory for this file", "la mémoire ne suffit pas pour ce fichier")));
+        MessageLoggerInterface::Error(
+            remark(shown(m_name), 0,
+                   tr("there is not enough memory for this file; close other programs and import it again",
+                      "la mémoire ne suffit pas pour ce fichier ; fermez d'autres programmes et importez-le "
+                      "à nouveau")));
     } catch (const VKError& error) {
         MessageLoggerInterface::Error(error.text());
     }

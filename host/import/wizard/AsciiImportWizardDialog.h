@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ColumnListModel.h"
+#include "HelpId.h"
+#include "HelpInterface.h"
 #include "ImportDraft.h"
 #include "SheetPreviewModel.h"
 
@@ -17,12 +19,14 @@ class QTableView;
 /// Shows a draft of an import and lets a person correct it: the rows of the table and the column that names
 /// the samples at the top, then what becomes of each column, the sheet as it will be imported, and what there
 /// is to know before. Its widgets only show the draft and pass on what is chosen.
-class AsciiImportWizardDialog : public QDialog {
+class AsciiImportWizardDialog : public QDialog, public HelpInterface {
     Q_OBJECT
 
 public:
     /// Refers to the draft. The file's name, which may be empty, stands in the title.
     AsciiImportWizardDialog(ImportDraft& draft, const QString& fileName, QWidget* parent);
+
+    int getIdForHelp() const override { return HelpId::wizard; }
 
 private:
     void buildChoices(QGridLayout& layout);

@@ -102,21 +102,11 @@ bool isNear(Place place, const std::vector<Place>& others, double dx, double dy)
     });
 }
 
-std::string removalTitle(const RemovedPeak& candidate) {
-    const std::string place = "Removed candidate at " + trimmedNumber(candidate.x, 1) + " s, height " +
-                              trimmedNumber(candidate.y, 1) + ": ";
-    if (candidate.cause == RemovalCause::early)
-        return place + "too close to the start";
-    if (!std::isfinite(candidate.ratio) || candidate.ratio < 0)
-        return place + "does not rise above its valleys";
-    return place + "coelution ratio " + trimmedNumber(candidate.ratio, 3);
-}
-
 } // namespace
 
-CurveChart::CurveChart(const GradeRecord& record)
-    : m_record(record), m_threshold(record.settings.height * record.mean), m_x(timeScale(record)),
-      m_y(0, 1, bottom, top) {
+CurveChart::CurveChart(const GradeRecord& record, Language language)
+    : m_record(record), m_language(language), m_threshold(record.settings.height * record.mean),
+      m_x(timeScale(record)), m_y(0, 1, bottom, top) {
     const ValueRange heights = heightRange(record);
     m_thresholdFits = m_threshold >= heights.low() && m_threshold <= mostThresholdShare * heights.high();
     m_y = heightScale(heights, m_threshold, m_thresholdFits);
@@ -127,7 +117,9 @@ std::string CurveChart::svg(std::string_view labelledBy) const {
                        R"(" role="img" aria-labelledby=")" + std::string(labelledBy) + "\">\n";
     if (!hasSamples(m_record.raw) && !hasSamples(m_record.smoothed)) {
         return text + "<g class=\"times\">" +
-               label((left + right) / 2, (top + bottom) / 2, "no sample to draw") + "</g></svg>\n";
+               label((left + right) / 2, (top + bottom) / 2,
+                     say("no sample to draw", "aucun point à tracer")) +
+               "</g></svg>\n";
     }
     text += leftOut() + axes() + curves() + threshold() + valleys() + removedCandidates() + peaks() +
             peakLabels() + notDrawn();
@@ -150,27 +142,29 @@ std::string CurveChart::axes() const {
         timeLabels += label(tick.pixel, bottom + 18, tick.label);
     }
     return path("grid", grid) + path("axis", axis) + heightLabels + "</g>\n" + timeLabels + "</g>\n" +
-           "<g class=\"units\">" + label(0, 12, "FID signal") + "</g><g class=\"units end\">" +
-           label(right, bottom + 36, "time (s)") + "</g>\n";
+           "<g class=\"units\">" + label(0, 12, say("FID signal", "signal FID")) +
+           "</g><g class=\"units end\">" + label(right, bottom + 36, say("time (s)", "temps (s)")) + "</g>\n";
 }
 
 std::string CurveChart::leftOut() const {
     std::string text;
     if (std::isfinite(m_record.start) && m_record.start > m_x.low())
-        text += shade(m_x.low(), m_record.start, "Left out: before the start");
+        text += shade(m_x.low(), m_record.start,
+                      say("Left out: before the start", "Laissé de côté : avant le départ"));
     ValueRange graded;
     graded.include(m_record.smoothed.x);
     if (!graded.isEmpty() && graded.high() < m_x.high())
-        text += shade(graded.high(), m_x.high(), "Left out: after the graded range");
+        text += shade(graded.high(), m_x.high(),
+                      say("Left out: after the graded range", "Laissé de côté : après la plage évaluée"));
     return text;
 }
 
-std::string CurveChart::shade(double from, double to, std::string_view title) const {
+std::string CurveChart::shade(double from, double to, const std::string& title) const {
     const double width = m_x.pixel(to) - m_x.pixel(from);
     return titledPath("out",
                       "M" + point(m_x.pixel(from), top) + "h" + pathNumber(width) + "V" + pathNumber(bottom) +
                           "h" + pathNumber(-width) + "z",
-                      std::string(title));
+                      title);
 }
 
 std::string CurveChart::curves() const {
@@ -181,10 +175,11 @@ std::string CurveChart::curves() const {
 std::string CurveChart::threshold() const {
     if (!std::isfinite(m_threshold))
         return {};
-    const std::string name =
-        trimmedNumber(m_record.settings.height, 3) + " × mean = " + trimmedNumber(m_threshold, 1);
+    const std::string name = trimmedNumber(m_record.settings.height, 3) + say(" × mean = ", " × moyenne = ") +
+                             trimmedNumber(m_threshold, 1);
     if (!m_thresholdFits)
-        return "<g class=\"units end\">" + label(right, 12, name + ", outside the drawing") + "</g>\n";
+        return "<g class=\"units end\">" +
+               label(right, 12, name + say(", outside the drawing", ", hors du dessin")) + "</g>\n";
     const double y = m_y.pixel(m_threshold);
     return path("threshold", "M" + point(left, y) + "H" + pathNumber(right)) + "<g class=\"note end\">" +
            label(right - 4, y - 5, name) + "</g>\n";
@@ -205,6 +200,17 @@ std::string CurveChart::valleys() const {
         }
     }
     return data.empty() ? data : path("valley", data);
+}
+
+std::string CurveChart::removalTitle(const RemovedPeak& candidate) const {
+    const std::string place = say("Removed candidate at ", "Candidat retiré à ") +
+                              trimmedNumber(candidate.x, 1) + say(" s, height ", " s, hauteur ") +
+                              trimmedNumber(candidate.y, 1) + say(": ", " : ");
+    if (candidate.cause == RemovalCause::early)
+        return place + say("too close to the start", "trop près du départ");
+    if (!std::isfinite(candidate.ratio) || candidate.ratio < 0)
+        return place + say("does not rise above its valleys", "ne dépasse pas ses vallées");
+    return place + say("coelution ratio ", "rapport de coélution ") + trimmedNumber(candidate.ratio, 3);
 }
 
 std::string CurveChart::removedCandidates() const {
@@ -230,11 +236,13 @@ std::string CurveChart::peaks() const {
     std::string text;
     for (const ReportedPeak* peak : highestMarks(m_record.peaks)) {
         const GradeKind marker = markerOf(*peak);
-        text +=
-            titledPath("marker " + std::string(kindClass(marker)),
-                       "M" + point(m_x.pixel(peak->x), m_y.pixel(peak->y)) + std::string(kindShape(marker)),
-                       "Peak at " + trimmedNumber(peak->x, 1) + " s, height " + trimmedNumber(peak->y, 1) +
-                           (isLow(*peak) ? ", below" : ", reaches") + " the height threshold");
+        text += titledPath(
+            "marker " + std::string(kindClass(marker)),
+            "M" + point(m_x.pixel(peak->x), m_y.pixel(peak->y)) + std::string(kindShape(marker)),
+            say("Peak at ", "Pic à ") + trimmedNumber(peak->x, 1) + say(" s, height ", " s, hauteur ") +
+                trimmedNumber(peak->y, 1) +
+                (isLow(*peak) ? say(", below the height threshold", ", sous le seuil de hauteur")
+                              : say(", reaches the height threshold", ", atteint le seuil de hauteur")));
     }
     return text;
 }
@@ -265,12 +273,15 @@ std::string CurveChart::peakLabels() const {
 
 std::string CurveChart::notDrawn() const {
     std::string list;
-    const auto note = [&list](std::size_t count, std::string_view what) {
-        if (count > mostMarks)
-            list += (list.empty() ? "not drawn: " : ", ") + counted(count - mostMarks, what);
+    const auto note = [&list, this](std::size_t count, const std::string& one, const std::string& several) {
+        if (count > mostMarks) {
+            list += (list.empty() ? say("not drawn: ", "non tracé : ") : ", ") +
+                    counted(count - mostMarks, one, several);
+        }
     };
-    note(m_record.peaks.size(), "lower peak");
-    note(m_record.removed.size(), "lower removed candidate");
+    note(m_record.peaks.size(), say("lower peak", "pic plus bas"), say("lower peaks", "pics plus bas"));
+    note(m_record.removed.size(), say("lower removed candidate", "candidat retiré plus bas"),
+         say("lower removed candidates", "candidats retirés plus bas"));
     if (list.empty())
         return list;
     return "<g class=\"units\">" + label(left, bottom + 36, list) + "</g>\n";

@@ -2,6 +2,7 @@
 
 #include "gradereport/gradekind.h"
 #include "gradereport/graderecord.h"
+#include "gradereport/language.h"
 
 #include "chartscale.h"
 
@@ -17,7 +18,7 @@ namespace gradereport {
 /// the axis tells what is not drawn. The record must outlive the chart.
 class CurveChart {
 public:
-    explicit CurveChart(const GradeRecord& record);
+    CurveChart(const GradeRecord& record, Language language);
 
     /// `labelledBy` holds the ids of the elements that describe the drawing.
     [[nodiscard]] std::string svg(std::string_view labelledBy) const;
@@ -25,7 +26,7 @@ public:
 private:
     [[nodiscard]] std::string axes() const;
     [[nodiscard]] std::string leftOut() const;
-    [[nodiscard]] std::string shade(double from, double to, std::string_view title) const;
+    [[nodiscard]] std::string shade(double from, double to, const std::string& title) const;
     [[nodiscard]] std::string curves() const;
     [[nodiscard]] std::string threshold() const;
     [[nodiscard]] std::string valleys() const;
@@ -35,7 +36,13 @@ private:
     [[nodiscard]] std::string notDrawn() const;
     [[nodiscard]] GradeKind markerOf(const ReportedPeak& peak) const;
 
+    [[nodiscard]] std::string removalTitle(const RemovedPeak& candidate) const;
+    [[nodiscard]] std::string say(const char* english, const char* french) const {
+        return said(m_language, english, french);
+    }
+
     const GradeRecord& m_record;
+    Language m_language;
     double m_threshold;
     bool m_thresholdFits = false;
     ChartScale m_x;

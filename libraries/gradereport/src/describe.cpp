@@ -40,7 +40,7 @@ std::vector<RemovedPeak> allRemoved(const Grading& grading) {
 } // namespace
 
 GradeRecord describe(const Grading::Signal& raw, const Grading& grading, const EngineSettings& settings,
-                     Curves curves) {
+                     Curves curves, Language language) {
     GradeRecord record;
     record.points = raw.size();
     record.gradedPoints = grading.even->size();
@@ -48,7 +48,7 @@ GradeRecord describe(const Grading::Signal& raw, const Grading& grading, const E
     record.mean = grading.mean;
     record.quality = algo::sr_qaqc::qualityCode(*grading.chromatogram);
     record.grade = algo::sr_qaqc::qualityText(record.quality);
-    record.reason = gradeReason(grading, settings);
+    record.reason = gradeReason(grading, settings, language);
     record.settings = {settings.sensitivity, settings.coelution, settings.heightCriteria};
     const auto& peaks = grading.chromatogram->peaks();
     std::transform(peaks.begin(), peaks.end(), std::back_inserter(record.peaks), reported);

@@ -20,10 +20,12 @@ GradeKind kindOf(const GradeRecord& record) {
     }
 }
 
-std::string_view kindWord(GradeKind kind) {
+std::string_view kindWord(GradeKind kind, Language language) {
     constexpr std::array<std::string_view, gradeKindCount> words{"good",    "double", "flat",
                                                                  "no peak", "other",  "failed"};
-    return words[static_cast<std::size_t>(kind)];
+    constexpr std::array<std::string_view, gradeKindCount> french{"bonne",     "double", "plate",
+                                                                  "aucun pic", "autre",  "échec"};
+    return (language == Language::french ? french : words)[static_cast<std::size_t>(kind)];
 }
 
 const ReportedPeak* highestPeak(const GradeRecord& record) {

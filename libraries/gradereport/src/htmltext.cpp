@@ -58,10 +58,9 @@ std::string trimmedNumber(double value, int decimals) {
     return text;
 }
 
-std::string counted(std::size_t count, std::string_view singular) {
+std::string counted(std::size_t count, std::string_view singular, std::string_view plural) {
     std::string text = std::to_string(count);
-    text.append(1, ' ').append(singular);
-    return count == 1 ? text : text + 's';
+    return text.append(1, ' ').append(count == 1 ? singular : plural);
 }
 
 } // namespace gradereport

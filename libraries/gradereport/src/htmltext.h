@@ -18,6 +18,6 @@ namespace gradereport {
 [[nodiscard]] std::string trimmedNumber(double value, int decimals);
 
 /// "1 peak", "3 peaks".
-[[nodiscard]] std::string counted(std::size_t count, std::string_view singular);
+[[nodiscard]] std::string counted(std::size_t count, std::string_view singular, std::string_view plural);
 
 } // namespace gradereport

@@ -20,8 +20,8 @@ constexpr std::size_t digestWidth = 12;
 constexpr std::size_t mostWarnings = 20;
 constexpr std::string_view dash = "\u2013";
 
-std::string badge(GradeKind kind, int quality) {
-    std::string text = "<span class=\"badge\">" + kindIcon(kind) + std::string(kindWord(kind));
+std::string badge(GradeKind kind, int quality, Language language) {
+    std::string text = "<span class=\"badge\">" + kindIcon(kind) + std::string(kindWord(kind, language));
     if (kind == GradeKind::other)
         text += " (" + std::to_string(quality) + ')';
     return text + "</span>";
@@ -58,41 +58,47 @@ std::string digestCell(const std::string& digest) {
            "\u2026</td>";
 }
 
-std::string figure(std::string_view name, const std::string& value) {
-    return "<div><dt>" + std::string(name) + "</dt><dd>" + value + "</dd></div>";
+std::string figure(const std::string& name, const std::string& value) {
+    return "<div><dt>" + name + "</dt><dd>" + value + "</dd></div>";
 }
 
-std::string figures(const GradeRecord& record) {
+std::string figures(const GradeRecord& record, Language language) {
     const GradeSettings& settings = record.settings;
-    return "<dl>" + figure("Peaks", std::to_string(record.peaks.size())) +
-           figure("Start", trimmedNumber(record.start, 1) + " s") +
-           figure("Mean", std::to_string(record.mean)) +
-           figure("Threshold", trimmedNumber(settings.height * record.mean, 1)) +
-           figure("Points graded",
-                  std::to_string(record.gradedPoints) + " of " + std::to_string(record.points)) +
+    return "<dl>" + figure(said(language, "Peaks", "Pics"), std::to_string(record.peaks.size())) +
+           figure(said(language, "Start", "Départ"), trimmedNumber(record.start, 1) + " s") +
+           figure(said(language, "Mean", "Moyenne"), std::to_string(record.mean)) +
+           figure(said(language, "Threshold", "Seuil"), trimmedNumber(settings.height * record.mean, 1)) +
+           figure(said(language, "Points graded", "Points évalués"), std::to_string(record.gradedPoints) +
+                                                                         said(language, " of ", " sur ") +
+                                                                         std::to_string(record.points)) +
            "</dl>\n";
 }
 
-std::string warningList(const std::vector<std::string>& warnings) {
+std::string warningList(const std::vector<std::string>& warnings, Language language) {
     if (warnings.empty())
         return {};
-    std::string list =
-        "<p class=\"label\">" + counted(warnings.size(), "warning") + "</p><ul class=\"warnings\">";
+    std::string list = "<p class=\"label\">" +
+                       counted(warnings.size(), said(language, "warning", "avertissement"),
+                               said(language, "warnings", "avertissements")) +
+                       "</p><ul class=\"warnings\">";
     for (std::size_t i = 0; i < std::min(warnings.size(), mostWarnings); ++i)
         list += "<li>" + escaped(warnings[i]) + "</li>";
     if (warnings.size() > mostWarnings)
-        list += "<li>and " + counted(warnings.size() - mostWarnings, "more warning") + "</li>";
+        list += "<li>" + said(language, "and ", "et ") +
+                counted(warnings.size() - mostWarnings, said(language, "more warning", "autre avertissement"),
+                        said(language, "more warnings", "autres avertissements")) +
+                "</li>";
     return list + "</ul>\n";
 }
 
 } // namespace
 
-std::string tableRow(const GradeRecord& record, std::size_t number) {
+std::string tableRow(const GradeRecord& record, std::size_t number, Language language) {
     const GradeKind kind = kindOf(record);
     const ReportedPeak* top = highestPeak(record);
     const std::string ordinal = std::to_string(number);
     return rowStart(kind, ordinal) + fileCell(record.file, record.name, "c" + ordinal) + "<td data-v=\"" +
-           std::to_string(record.quality) + "\">" + badge(kind, record.quality) + "</td>" +
+           std::to_string(record.quality) + "\">" + badge(kind, record.quality, language) + "</td>" +
            numberCell(std::to_string(record.peaks.size())) +
            numberCell(top == nullptr ? std::string(dash) : fixedNumber(top->x, 1)) +
            numberCell(top == nullptr ? std::string(dash) : fixedNumber(top->y, 1)) +
@@ -101,29 +107,29 @@ std::string tableRow(const GradeRecord& record, std::size_t number) {
            "</div></td>" + digestCell(record.sha256) + "</tr>\n";
 }
 
-std::string tableRow(const FailureRecord& failure, std::size_t number) {
+std::string tableRow(const FailureRecord& failure, std::size_t number, Language language) {
     constexpr int numberCells = 6;
     std::string row = rowStart(GradeKind::failed, std::to_string(number)) +
                       fileCell(failure.file, std::string(fileNameOf(failure.file)), {}) + "<td>" +
-                      badge(GradeKind::failed, 0) + "</td>";
+                      badge(GradeKind::failed, 0, language) + "</td>";
     for (int i = 0; i < numberCells; ++i)
         row += numberCell(std::string(dash));
     return row + "<td class=\"r\">" + escaped(failure.error) + "</td><td class=\"d\">" + std::string(dash) +
            "</td></tr>\n";
 }
 
-std::string curveCard(const GradeRecord& record, std::size_t number) {
+std::string curveCard(const GradeRecord& record, std::size_t number, Language language) {
     const GradeKind kind = kindOf(record);
     const std::string ordinal = std::to_string(number);
     const std::string folder = folderOf(record.file, record.name);
     std::string card = R"(<article class="card" id="c)" + ordinal + "\">\n<header><h3 id=\"h" + ordinal +
                        "\">" + shortenedSpan(record.name, cardNameWidth) + "</h3>" +
-                       badge(kind, record.quality) + "</header>\n";
+                       badge(kind, record.quality, language) + "</header>\n";
     if (!folder.empty())
         card += "<p class=\"folder\">" + shortenedSpan(folder, pathWidth) + "</p>\n";
-    card += CurveChart(record).svg("h" + ordinal + " r" + ordinal);
+    card += CurveChart(record, language).svg("h" + ordinal + " r" + ordinal);
     card += R"(<p class="reason" id="r)" + ordinal + "\">" + escaped(record.reason) + "</p>\n";
-    card += warningList(record.warnings) + figures(record);
+    card += warningList(record.warnings, language) + figures(record, language);
     return card + "<p class=\"digest\">SHA-256 <code>" + escaped(record.sha256) + "</code></p>\n</article>\n";
 }
 

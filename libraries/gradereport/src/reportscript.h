@@ -16,7 +16,7 @@ const query = document.getElementById('query');
 const shown = document.getElementById('shown');
 const tiles = [...document.querySelectorAll('.tile')];
 const heads = [...document.querySelectorAll('#files thead th')];
-const collator = new Intl.Collator('en', { numeric: true });
+const collator = new Intl.Collator(document.documentElement.lang, { numeric: true });
 const items = [...body.rows].map((row, order) => ({
   row, order,
   card: document.getElementById('c' + row.dataset.i),
@@ -33,7 +33,8 @@ const filter = () => {
     if (item.card) item.card.hidden = !fits;
     count += fits;
   }
-  shown.textContent = count === items.length ? '' : count + ' of ' + items.length + ' shown';
+  const told = shown.dataset.words.replace('%1', count).replace('%2', items.length);
+  shown.textContent = count === items.length ? '' : told;
 };
 
 const cellText = (item, column) => {

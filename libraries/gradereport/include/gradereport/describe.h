@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gradereport/graderecord.h"
+#include "gradereport/language.h"
 #include "gradereport/nearestchange.h"
 
 namespace gradereport {
@@ -9,8 +10,9 @@ namespace gradereport {
 enum class Curves { leftOut, included };
 
 /// All that a grading says, as plain values: everything but the file's name, digest and warnings.
-/// `raw` is the signal that was graded.
+/// `raw` is the signal that was graded; the language is that of the reason.
 [[nodiscard]] GradeRecord describe(const Grading::Signal& raw, const Grading& grading,
-                                   const EngineSettings& settings, Curves curves);
+                                   const EngineSettings& settings, Curves curves,
+                                   Language language = Language::english);
 
 } // namespace gradereport

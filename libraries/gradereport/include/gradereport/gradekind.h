@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gradereport/graderecord.h"
+#include "gradereport/language.h"
 
 #include <string>
 #include <string_view>
@@ -16,7 +17,7 @@ inline constexpr int gradeKindCount = 6;
 [[nodiscard]] GradeKind kindOf(const GradeRecord& record);
 
 /// The word a person reads: "good", "double", "flat", "no peak", "other", "failed".
-[[nodiscard]] std::string_view kindWord(GradeKind kind);
+[[nodiscard]] std::string_view kindWord(GradeKind kind, Language language = Language::english);
 
 /// The peak with the greatest ordinate, the first of several; null if no peak stands.
 [[nodiscard]] const ReportedPeak* highestPeak(const GradeRecord& record);

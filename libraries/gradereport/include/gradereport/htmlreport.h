@@ -2,6 +2,7 @@
 
 #include "gradereport/graderecord.h"
 #include "gradereport/gradetally.h"
+#include "gradereport/language.h"
 
 #include <cstddef>
 #include <iosfwd>
@@ -18,7 +19,8 @@ namespace gradereport {
 /// Memory: the page's own text, a few kilobytes a file; curves are not kept.
 class HtmlReport {
 public:
-    HtmlReport(const GradeSettings& settings, std::string version);
+    /// The language is that of the page; records bring their sentences as they are.
+    HtmlReport(const GradeSettings& settings, std::string version, Language language = Language::english);
 
     void add(const GradeRecord& record);
     void addFailure(const FailureRecord& failure);
@@ -32,8 +34,14 @@ private:
     void writeTable(std::ostream& out) const;
     void writeCards(std::ostream& out) const;
 
+    [[nodiscard]] std::string say(const char* english, const char* french) const {
+        return said(m_language, english, french);
+    }
+    [[nodiscard]] std::string legend() const;
+
     GradeSettings m_settings;
     std::string m_version;
+    Language m_language;
     GradeTally m_tally;
     std::string m_rows;
     std::string m_cards;

@@ -1,5 +1,7 @@
 #include "ExampleProject.h"
+#include "HelpId.h"
 #include "HelpPage.h"
+#include "LogPanel.h"
 #include "ProjectTree.h"
 #include "TDatabase.h"
 #include "TableView.h"
@@ -9,11 +11,14 @@
 #include "VKObject2Analysis.h"
 #include "VKRibbon.h"
 #include "VKRibbonBar.h"
+#include "VKTreeWidget.h"
 #include "WorkbenchFixture.h"
 #include "Workspace.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -21,6 +26,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStandardPaths>
+#include <QTest>
 #include <QTextBlock>
 #include <QToolButton>
 #include <QTreeView>
@@ -120,7 +126,7 @@ TEST_F(Window, what_another_window_stored_shows_when_one_comes_back) {
 }
 
 TEST_F(Window, help_opens_the_guide_at_the_modules_page_and_follows_nothing_outside) {
-    ApplicationInterface::returnMe()->showHelp(124);
+    ApplicationInterface::returnMe()->showHelp(HelpId::qualityCheck);
     settle();
     auto* const page = dynamic_cast<HelpPage*>(workspace().currentPage());
     ASSERT_NE(page, nullptr);
@@ -131,6 +137,36 @@ TEST_F(Window, help_opens_the_guide_at_the_modules_page_and_follows_nothing_outs
     emit page->anchorClicked(QUrl("http://example.org"));
     emit page->anchorClicked(QUrl("#curves"));
     EXPECT_EQ(page->textCursor().block().text(), "Curves");
+}
+
+TEST_F(Window, f1_turns_the_guide_to_the_page_of_what_has_the_focus_above_a_dialog_as_well) {
+    QApplication::setActiveWindow(&workbench->window());
+    const auto heading = [](HelpPage* page) { return page->textCursor().block().text(); };
+    const auto f1 = [this](QWidget* focus) {
+        focus->setFocus();
+        QTest::keyClick(focus, Qt::Key_F1);
+        settle();
+        return workspace().findChild<HelpPage*>();
+    };
+    HelpPage* const page = f1(tree().findChild<QTreeView*>());
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(heading(page), "The project tree");
+    EXPECT_EQ(f1(workbench->window().log().findChild<QAbstractItemView*>()), page)
+        << "one guide, which turns";
+    EXPECT_EQ(heading(page), "Messages");
+    workbench->imports().start(ImportModules::Kind::Gas);
+    f1(workbench->imports().bar(ImportModules::Kind::Gas)->findChild<VKTreeWidget*>());
+    EXPECT_EQ(heading(page), "Importing");
+    ApplicationInterface::returnMe()->showHelp(4711);
+    settle();
+    EXPECT_TRUE(page->textCursor().atStart()) << "no such page: the guide's start";
+
+    QDialog dialog(&workbench->window());
+    QLineEdit line(&dialog);
+    dialog.open();
+    QTest::keyClick(&line, Qt::Key_F1);
+    ASSERT_NE(dialog.findChild<HelpPage*>(), nullptr) << "within reach while the dialog is open";
+    EXPECT_TRUE(dialog.findChild<HelpPage*>()->isVisible());
 }
 
 TEST_F(Window, every_button_of_the_start_tab_is_also_in_a_menu) {

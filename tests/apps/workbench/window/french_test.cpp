@@ -1,0 +1,182 @@
+#include "ExampleProject.h"
+#include "ModalAnswers.h"
+#include "ModuleObserver.h"
+#include "ProjectTree.h"
+#include "TDatabase.h"
+#include "TFileBuffer.h"
+#include "VKListViewSignal.h"
+#include "VKRibbonModuleBar.h"
+#include "WorkbenchFixture.h"
+#include "WorkbookReader.h"
+#include "Workspace.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <QTextDocumentFragment>
+
+#include <algorithm>
+
+namespace {
+
+using Texts = QSet<QString>;
+
+/// What a model says to who looks at its first rows.
+void addModel(const QAbstractItemModel* model, Texts& texts) {
+    if (model == nullptr) {
+        return;
+    }
+    for (int column = 0; column < qMin(model->columnCount(), 12); ++column) {
+        texts += model->headerData(column, Qt::Horizontal).toString();
+        for (int row = 0; row < qMin(model->rowCount(), 60); ++row) {
+            const QModelIndex cell = model->index(row, column);
+            texts += cell.data().toString();
+            texts += cell.data(Qt::ToolTipRole).toString();
+        }
+    }
+}
+
+void addWidget(const QWidget& widget, Texts& texts) {
+    texts += {widget.windowTitle(), widget.toolTip(),        widget.statusTip(),
+              widget.whatsThis(),   widget.accessibleName(), widget.accessibleDescription()};
+    for (const char* const name :
+         {"text", "title", "placeholderText", "prefix", "suffix", "specialValueText", "informativeText"}) {
+        if (qobject_cast<const QLineEdit*>(&widget) == nullptr || qstrcmp(name, "text") != 0) {
+            texts += widget.property(name).toString();
+        }
+    }
+    if (const auto* const tabs = qobject_cast<const QTabBar*>(&widget)) {
+        for (int index = 0; index < tabs->count(); ++index) {
+            texts += tabs->tabText(index);
+        }
+    }
+    if (const auto* const box = qobject_cast<const QComboBox*>(&widget)) {
+        addModel(box->model(), texts);
+    }
+    if (const auto* const view = qobject_cast<const QAbstractItemView*>(&widget)) {
+        addModel(view->model(), texts);
+    }
+    for (const QAction* const action : widget.actions()) {
+        texts += {action->text(), action->toolTip(), action->statusTip()};
+    }
+}
+
+/// All that the window and whatever is open can say at this moment.
+void addAll(Texts& texts) {
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget* const widget : widgets) {
+        addWidget(*widget, texts);
+    }
+}
+
+class French : public WorkbenchFixture {
+protected:
+    void drop(const QString& answer) {
+        ModalAnswers answers({answer});
+        answers.setObserver([this](QWidget&) { addAll(m_texts); });
+        workbench->intake().take({path("lab")});
+        settle();
+        addAll(m_texts);
+    }
+    void trigger(const QAction* action) {
+        ModalAnswers answers({"Cancel", "Annuler"});
+        answers.setObserver([this](QWidget&) { addAll(m_texts); });
+        const_cast<QAction*>(action)->trigger();
+        settle();
+    }
+    /// One visit of everything, in one language.
+    Texts visit(LanguageSwitch::Language language, const QStringList& answers) {
+        start();
+        m_texts.clear();
+        workbench->language().choose(language);
+        workbench->projects().create(path("lab.vornproj"), &ExampleProject::fill);
+        workbench->qualityCheck().exportForLearning(); // before it is open
+        for (const QString& answer : answers) {
+            drop(answer);
+        }
+        tree().findChild<QAbstractItemView*>()->selectAll();
+        tree().sendAction()->trigger();
+        workbench->qualityCheck().list()->selectAll();
+        workbench->qualityCheck().bar()->slotEventOccured(ModuleObserver::dataEditorAction);
+        ApplicationInterface::returnMe()->showHelp(0);
+        settle();
+        addAll(m_texts);
+        trigger(workbench->projectCommands().serverAction());
+        QMetaObject::invokeMethod(workbench->window().findChild<QMenu*>(), "aboutToShow");
+        addAll(m_texts);
+        addModel(&workbench->log(), m_texts);
+        return m_texts;
+    }
+
+    Texts m_texts;
+};
+
+/// What stands in a workbook is the user's, whatever language the window speaks.
+QStringList cellsOf(const QStringList& workbooks) {
+    QStringList cells;
+    for (const QString& path : workbooks) {
+        const Workbook::Book book = WorkbookReader::read(TFileBuffer(path, true).data(), path);
+        for (const Workbook::Sheet& sheet : book.sheets) {
+            cells += sheet.name;
+            for (const auto& row : sheet.rows) {
+                for (const QVariant& cell : row) {
+                    cells += cell.toString();
+                }
+            }
+        }
+    }
+    cells.removeAll({});
+    std::sort(cells.begin(), cells.end(),
+              [](const QString& one, const QString& other) { return one.size() > other.size(); });
+    return cells;
+}
+
+/// A text without what is the user's own and without numbers.
+QString ownWords(const QString& text, const QStringList& cells) {
+    static const QRegularExpression names(R"(\S+\.(S00|s00|R00|xlsx?|md|vornproj|tcm|dat|txt)\b|/\S*)");
+    QString own = QTextDocumentFragment::fromHtml(text).toPlainText().remove('&').remove(names);
+    for (const QString& cell : cells) {
+        own.remove(cell);
+    }
+    own.remove(QRegularExpression(R"(\d)"));
+    own = own.trimmed();
+    static const QRegularExpression words(R"([A-Za-z]{3,})");
+    return own.contains(words) ? own : QString();
+}
+
+/// The same in both languages: words they share, and the fixed words of the modules and of the toolkit.
+const QStringList shared{
+    "A Sample",     "Sample",   "Actions",     "Analyses",     "Date",        "English", "Français",
+    "Information",  "Message",  "Messages",    "Module",       "Modules",     "Points",  "Quality",
+    "Color legend", "Gas data", "Import data", "Source rock",  "Source Rock", "Status",  "good",
+    "double",       "flat",     "Scroll Left", "Scroll Right", "postgresql:"};
+
+} // namespace
+
+TEST_F(French, no_text_of_the_whole_window_and_its_dialogs_stays_english) {
+    QDir().mkpath(path("lab"));
+    for (const char* const name : {"good-clean-01.R00", "good-missing-seconds-01.S00", "tables/gas.xlsx",
+                                   "tables/custom.xlsx", "README.md"}) {
+        QFile::copy(QStringLiteral(VORN_EXAMPLES "/") + name, path("lab/") + QFileInfo(name).fileName());
+    }
+    using Language = LanguageSwitch::Language;
+    const Texts english = visit(Language::English, {"Import", "Overwrite"});
+    const Texts french = visit(Language::French, {"Importer", "Écraser"});
+    EXPECT_GT(french.size(), 200);
+    const QStringList cells = cellsOf({path("lab/gas.xlsx"), path("lab/custom.xlsx")});
+    QStringList left;
+    for (const QString& text : french) {
+        const QString own = english.contains(text) ? ownWords(text, cells) : QString();
+        if (!own.isEmpty() && !shared.contains(own)) {
+            left.append(own.left(160));
+        }
+    }
+    EXPECT_TRUE(left.isEmpty()) << left.join("\n").toStdString();
+}
