@@ -114,6 +114,34 @@ TEST(GradeReason, names_what_stands_what_fell_and_against_which_limits) {
     }
 }
 
+// The numbers are those of the English sentence, which the test above holds to the grading.
+TEST(GradeReason, says_the_same_in_french_with_commas_and_leaves_no_english_word) {
+    const std::vector<std::string> english{" peak", "stand", "with ", "would",
+                                           " it ",  " and ", "fell",  " or "};
+    for (const auto& signal : curves()) {
+        for (const double coelution : {0.6, 1.25, 1.8}) {
+            EngineSettings settings;
+            settings.coelution = coelution;
+            const auto grading = algo::sr_qaqc::grade(signal, settings);
+            const auto digits = [](std::string text) {
+                std::string kept;
+                for (const char each : text)
+                    kept += each >= '0' && each <= '9' ? std::string(1, each) : "";
+                return kept;
+            };
+            const std::string french = gradeReason(grading, settings, gradereport::Language::french);
+            EXPECT_EQ(digits(french), digits(gradeReason(grading, settings))) << french;
+            EXPECT_EQ(french.find('.'), french.size() - 1) << french;
+            for (const std::string& word : english)
+                EXPECT_EQ(french.find(word), std::string::npos) << french;
+        }
+    }
+    const std::string lone = gradeReason(algo::sr_qaqc::grade(curves()[1], EngineSettings()),
+                                         EngineSettings(), gradereport::Language::french);
+    EXPECT_NE(lone.find("son sommet reste sous 2 × le niveau moyen de "), std::string::npos) << lone;
+    EXPECT_NE(lone.find(" ou moins, elle serait bonne."), std::string::npos) << lone;
+}
+
 TEST(Describe, the_record_repeats_what_the_engine_decided) {
     const EngineSettings settings;
     const auto grading = algo::sr_qaqc::grade(curves()[3], settings);
