@@ -1,5 +1,6 @@
 #include "QualityCheck.h"
 
+#include "CheckSession.h"
 #include "LearningExport.h"
 #include "MessageLoggerInterface.h"
 #include "ModuleLauncher.h"
@@ -30,10 +31,17 @@ void QualityCheck::start() {
     m_bar = m_ribbon.barAddedBy([&controller] { controller = new Vorn::SourceRockQAQC::SourceRockQAQCCtrl; });
     m_launcher.adopt(controller);
     m_gate->guard(m_bar);
+    m_session = CheckSession::begin(*m_bar);
     const QList<SliderScientific*> sliders = m_bar->findChildren<SliderScientific*>();
     for (const SliderScientific* const slider : sliders) {
         // Behind the module's own connection, so that the tables read the new grades.
         connect(slider, &SliderScientific::valueChanged, &m_workspace, &Workspace::refreshTables);
+    }
+}
+
+void QualityCheck::leaveProject() {
+    if (m_session != nullptr) {
+        m_session->grades().readAll();
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 
+class CheckSession;
 class ModuleLauncher;
 class RibbonHost;
 class TrialGate;
@@ -31,6 +32,9 @@ public:
     /// Drops the objects on the list as a mouse would, and opens the quality check before if need be.
     void send(const QList<const VKObject2*>& objects);
 
+    /// To be called before the project is closed: the analyses stay in the list.
+    void leaveProject();
+
     /// Lets it write its file for machine learning into the project's folder, and shows the file.
     void exportForLearning();
 
@@ -40,4 +44,5 @@ private:
     ModuleLauncher& m_launcher;
     TrialGate* m_gate;
     QPointer<VKRibbonModuleBar> m_bar;
+    QPointer<CheckSession> m_session;
 };

@@ -38,6 +38,7 @@ Workbench::~Workbench() {
 
 void Workbench::wireProject() {
     connect(&m_projects, &ProjectMgr::closing, this, [this] {
+        m_qualityCheck.leaveProject();
         m_window.tree().setProject(nullptr);
         m_window.workspace().closePages();
     });
