@@ -1,5 +1,6 @@
 #include "QualityCheck.h"
 
+#include "CheckActions.h"
 #include "CheckSession.h"
 #include "LearningExport.h"
 #include "MessageLoggerInterface.h"
@@ -18,7 +19,8 @@
 #include <memory>
 
 QualityCheck::QualityCheck(RibbonHost& ribbon, ModuleLauncher& launcher, Workspace& workspace)
-    : m_workspace(workspace), m_ribbon(ribbon), m_launcher(launcher), m_gate(new TrialGate(this)) {
+    : m_workspace(workspace), m_ribbon(ribbon), m_launcher(launcher), m_gate(new TrialGate(this)),
+      m_actions(new CheckActions(this)) {
     connect(m_gate, &TrialGate::delivered, &m_workspace, &Workspace::refreshTables);
 }
 
@@ -31,12 +33,16 @@ void QualityCheck::start() {
     m_bar = m_ribbon.barAddedBy([&controller] { controller = new Vorn::SourceRockQAQC::SourceRockQAQCCtrl; });
     m_launcher.adopt(controller);
     m_gate->guard(m_bar);
-    m_session = CheckSession::begin(*m_bar);
+    m_session = CheckSession::begin(*m_bar, *m_actions);
     const QList<SliderScientific*> sliders = m_bar->findChildren<SliderScientific*>();
     for (const SliderScientific* const slider : sliders) {
         // Behind the module's own connection, so that the tables read the new grades.
         connect(slider, &SliderScientific::valueChanged, &m_workspace, &Workspace::refreshTables);
     }
+}
+
+CheckSession* QualityCheck::session() const {
+    return m_session.data();
 }
 
 void QualityCheck::leaveProject() {

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 
+class CheckActions;
 class CheckSession;
 class ModuleLauncher;
 class RibbonHost;
@@ -29,6 +30,11 @@ public:
     /// The list of signals; null while it isn't open.
     VKListViewSignal* list() const;
 
+    /// Null while it isn't open, or can't be helped with.
+    CheckSession* session() const;
+    /// What can be done in it by menu and keys.
+    CheckActions& actions() const { return *m_actions; }
+
     /// Drops the objects on the list as a mouse would, and opens the quality check before if need be.
     void send(const QList<const VKObject2*>& objects);
 
@@ -44,5 +50,6 @@ private:
     ModuleLauncher& m_launcher;
     TrialGate* m_gate;
     QPointer<VKRibbonModuleBar> m_bar;
+    CheckActions* m_actions;
     QPointer<CheckSession> m_session;
 };

@@ -1,5 +1,6 @@
 #include "Workbench.h"
 
+#include "CheckActions.h"
 #include "HelpPage.h"
 #include "MainMenu.h"
 #include "ProjectTree.h"
@@ -21,6 +22,8 @@ Workbench::Workbench()
     wireTree();
     connect(&m_language, &LanguageSwitch::languageChanged, &m_projectCommands, &ProjectCommands::translate);
     connect(&m_language, &LanguageSwitch::languageChanged, m_menu, &MainMenu::translate);
+    connect(&m_language, &LanguageSwitch::languageChanged, &m_qualityCheck.actions(),
+            &CheckActions::translate);
     connect(&m_language, &LanguageSwitch::languageChanged, this, &Workbench::showTitle);
     // Number boxes write as their window does.
     connect(&m_language, &LanguageSwitch::languageChanged, &m_window,

@@ -5,16 +5,17 @@
 #include "gradereport/gradekind.h"
 
 #include <QObject>
+#include <QVector>
 
 #include <memory>
 #include <optional>
-#include <vector>
+#include <unordered_map>
 
 class QTreeWidgetItem;
 class VKListViewSignal;
 class VKObject2;
 
-/// The grades of the analyses in the list of a quality check, row by row, with the settings of the moment.
+/// The grades of the analyses in the list of a quality check, item by item, with the settings of the moment.
 /// Nothing is graded before it is asked for, and nothing twice.
 class CheckGrades : public QObject {
     Q_OBJECT
@@ -27,25 +28,26 @@ public:
 
     const CheckDials& dials() const { return m_dials; }
 
-    /// As many as the list has rows that were added since.
-    int count() const { return static_cast<int>(m_analyses.size()); }
-    CheckedAnalysis& at(int row) { return *m_analyses[static_cast<std::size_t>(row)]; }
+    /// In the order of the list.
+    QVector<CheckedAnalysis*> analyses() const;
     /// The first of that name, null for an unknown one.
-    CheckedAnalysis* named(const QString& name);
+    CheckedAnalysis* named(const QString& name) const;
 
     /// Nothing for an analysis of which nothing is known any more.
-    std::optional<gradereport::GradeKind> kind(int row);
+    std::optional<gradereport::GradeKind> kind(const QTreeWidgetItem* item);
 
     /// Reads all curves that have not been read, before their project is closed.
     void readAll();
 
 signals:
-    /// An analysis was added at the end.
-    void added();
+    void added(QTreeWidgetItem* item);
+    void removed();
 
 private:
-    void add(const QTreeWidgetItem* item, const VKObject2* object);
+    void add(QTreeWidgetItem* item, const VKObject2* object);
+    void forget(int first, int last);
 
+    const VKListViewSignal& m_list;
     CheckDials m_dials;
-    std::vector<std::unique_ptr<CheckedAnalysis>> m_analyses;
+    std::unordered_map<const QTreeWidgetItem*, std::unique_ptr<CheckedAnalysis>> m_analyses;
 };

@@ -1,27 +1,39 @@
 #pragma once
 
+#include "CheckFilter.h"
 #include "CheckGrades.h"
 
 #include <QObject>
 
+class CheckActions;
 class VKListViewSignal;
 class VKRibbonModuleBar;
 
 /// What the workbench adds to one open quality check, beside what the module does itself: the reason of each
-/// grade above its curve.
+/// grade above its curve, ways to
+/// select and filter by grade.
 class CheckSession : public QObject {
     Q_OBJECT
 
 public:
-    /// For a bar that is complete and has no analysis yet. It owns the session; null, with an Error on the
-    /// log, for a bar without the list and the sliders of a quality check.
-    static CheckSession* begin(VKRibbonModuleBar& bar);
+    /// For a bar that is complete and has no analysis yet. It owns the session, and the actions outlive it;
+    /// null, with an Error on the log, for a bar without the list and the sliders of a quality check.
+    static CheckSession* begin(VKRibbonModuleBar& bar, CheckActions& actions);
     ~CheckSession() override;
 
     CheckGrades& grades() { return m_grades; }
+    CheckFilter& filter() { return m_filter; }
 
 private:
-    CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const CheckDials& dials);
+    CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const CheckDials& dials,
+                 CheckActions& actions);
+    void wireActions();
+    void followSettings();
+    void select(gradereport::GradeKind kind);
+    void setFilter(std::optional<gradereport::GradeKind> only);
 
+    VKListViewSignal& m_list;
+    CheckActions& m_actions;
     CheckGrades m_grades;
+    CheckFilter m_filter;
 };
