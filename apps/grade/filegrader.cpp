@@ -20,10 +20,6 @@ namespace {
 
 using Values = std::vector<double>;
 
-std::string warningText(const rockeval::Warning& warning) {
-    return warning.line == 0 ? warning.text : "line " + std::to_string(warning.line) + ": " + warning.text;
-}
-
 Outcome graded(const std::string& path, const gradereport::EngineSettings& settings,
                gradereport::Curves curves, const DoneInputs& done) {
     const std::string bytes = rockeval::readBytes(path);
@@ -47,7 +43,7 @@ Outcome graded(const std::string& path, const gradereport::EngineSettings& setti
     file.record.name = gradereport::fileNameOf(path);
     file.record.sha256 = std::move(digest);
     for (const rockeval::Warning& warning : read.warnings) {
-        file.record.warnings.push_back(warningText(warning));
+        file.record.warnings.push_back(rockeval::warningText(warning));
     }
     return file;
 }

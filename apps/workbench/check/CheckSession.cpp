@@ -2,14 +2,33 @@
 
 #include "CheckActions.h"
 #include "CheckReasons.h"
+#include "CheckReport.h"
 #include "CheckSelection.h"
 #include "MessageLoggerInterface.h"
 #include "SliderScientific.h"
 #include "TViewerNotes.h"
+#include "VKError.h"
 #include "VKListViewSignal.h"
+#include "VKRibbonGroup.h"
 #include "VKRibbonModuleBar.h"
 
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <exception>
+
 using TechPlot::TViewerNotes;
+
+namespace {
+
+QString folderKey() {
+    return QStringLiteral("workbench/reportFolder");
+}
+
+} // namespace
 
 CheckSession* CheckSession::begin(VKRibbonModuleBar& bar, CheckActions& actions) {
     auto* const list = bar.findChild<VKListViewSignal*>();
@@ -34,6 +53,7 @@ CheckSession::CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const
     for (const SliderScientific* const slider : {dials.sensitivity(), dials.coelution(), dials.height()}) {
         connect(slider, &SliderScientific::valueChanged, this, &CheckSession::followSettings);
     }
+    bar.actionGroup()->addActionButton(actions.reportAction());
     wireActions();
 }
 
@@ -49,7 +69,31 @@ void CheckSession::wireActions() {
             [this](int direction) { CheckSelection::step(m_list, direction); });
     connect(&m_actions, &CheckActions::selectRequested, this, &CheckSession::select);
     connect(&m_actions, &CheckActions::filterRequested, this, &CheckSession::setFilter);
+    connect(&m_actions, &CheckActions::reportRequested, this, &CheckSession::askWhereToReport);
     m_actions.setOpen(true);
+}
+
+void CheckSession::writeReport(const QString& path) {
+    try {
+        CheckReport(m_grades).write(path);
+    } catch (const std::exception& error) { // memory may give out as well
+        VKError::dispatchError(error);
+    }
+}
+
+void CheckSession::askWhereToReport() {
+    const QDir folder(QSettings().value(folderKey(), QDir::homePath()).toString());
+    auto* const dialog = new QFileDialog(m_list.window(), tr("HTML report", "Rapport HTML"), folder.path(),
+                                         tr("HTML page (*.html)", "Page HTML (*.html)"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("html"));
+    dialog->selectFile(QStringLiteral("grades.html"));
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& path) {
+        QSettings().setValue(folderKey(), QFileInfo(path).absolutePath());
+        writeReport(path);
+    });
+    dialog->open();
 }
 
 void CheckSession::followSettings() {

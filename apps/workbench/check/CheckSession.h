@@ -24,11 +24,15 @@ public:
     CheckGrades& grades() { return m_grades; }
     CheckFilter& filter() { return m_filter; }
 
+    /// Writes the report; success and failure go to the log.
+    void writeReport(const QString& path);
+
 private:
     CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const CheckDials& dials,
                  CheckActions& actions);
     void wireActions();
     void followSettings();
+    void askWhereToReport();
     void select(gradereport::GradeKind kind);
     void setFilter(std::optional<gradereport::GradeKind> only);
 

@@ -27,6 +27,7 @@ bool CheckedAnalysis::read() {
         try {
             if (m_database != nullptr) {
                 m_curve = std::make_unique<TAnalysisData>(m_database->curve(m_key));
+                m_origin = m_database->origin(m_key);
             }
         } catch (const VKError&) {
             m_curve = nullptr; // removed since: no failure, the module has its own copy
@@ -34,6 +35,11 @@ bool CheckedAnalysis::read() {
         m_gone = m_curve == nullptr;
     }
     return !m_gone;
+}
+
+std::optional<AnalysisOrigin> CheckedAnalysis::origin() {
+    read();
+    return m_origin;
 }
 
 CheckedAnalysis::Signal CheckedAnalysis::signal() {

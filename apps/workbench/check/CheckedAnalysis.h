@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AnalysisOrigin.h"
 #include "TAnalysisData.h"
 #include "gradereport/candidates.h"
 
@@ -31,6 +32,8 @@ public:
     /// Null once the project is closed.
     TechDB::TDatabase* database() const;
     qint64 key() const { return m_key; }
+    /// Where the curve was read from, as the project knows it; read once, with the curve.
+    std::optional<AnalysisOrigin> origin();
 
     /// Reads the curve, if that has not been done. False if it can't be read any more, because the analysis
     /// or its project went before; then nothing can be said of the analysis.
@@ -54,6 +57,7 @@ private:
     qint64 m_key;
     double m_leastCoelution;
     std::unique_ptr<TAnalysisData> m_curve;
+    std::optional<AnalysisOrigin> m_origin;
     bool m_gone = false;
     std::map<double, gradereport::Candidates> m_candidates;
 };
