@@ -10,6 +10,7 @@
 #include "SliderScientific.h"
 #include "SourceRockQAQCCtrl.h"
 #include "TrialGate.h"
+#include "VKDataModel.h"
 #include "VKListViewSignal.h"
 #include "VKObject2Decoder.h"
 #include "Workspace.h"
@@ -22,6 +23,31 @@ QualityCheck::QualityCheck(RibbonHost& ribbon, ModuleLauncher& launcher, Workspa
     : m_workspace(workspace), m_ribbon(ribbon), m_launcher(launcher), m_gate(new TrialGate(this)),
       m_actions(new CheckActions(this)) {
     connect(m_gate, &TrialGate::delivered, &m_workspace, &Workspace::refreshTables);
+    connect(&m_workspace, &Workspace::tableOpened, this, &QualityCheck::tableOpened);
+    connect(&m_workspace, &Workspace::tableExported, this, &QualityCheck::tableExported);
+}
+
+/// The name that the module gives to the tables of its results.
+bool QualityCheck::isResults(const VKDataModel& table) {
+    return table.name() == QLatin1String("Source Rock") && table.project() == QLatin1String("New project");
+}
+
+void QualityCheck::tableOpened(const VKDataModel* table) {
+    if (m_session != nullptr && isResults(*table)) {
+        m_session->addResults(table);
+    }
+}
+
+void QualityCheck::tableExported(const VKDataModel* table, const QString& path) {
+    if (m_session != nullptr && m_session->holdsResults(table)) {
+        m_session->writeOriginBeside(path);
+    } else if (isResults(*table)) {
+        MessageLoggerInterface::Warning(
+            tr("The settings behind these grades are not known any more, since their quality check was "
+               "closed: open it again and export its results.",
+               "Les réglages de ces grades ne sont plus connus, car leur contrôle qualité a été fermé : "
+               "rouvrez-le et exportez ses résultats."));
+    }
 }
 
 void QualityCheck::start() {
@@ -71,5 +97,8 @@ void QualityCheck::exportForLearning() {
                "Il n'y a rien à exporter : ouvrez d'abord le contrôle qualité et déposez-y des analyses."));
         return;
     }
-    LearningExport::run(*m_bar, m_workspace);
+    const QString path = LearningExport::run(*m_bar, m_workspace);
+    if (!path.isEmpty() && m_session != nullptr) {
+        m_session->writeOriginBeside(path);
+    }
 }

@@ -12,6 +12,7 @@ class CheckSession;
 class ModuleLauncher;
 class RibbonHost;
 class TrialGate;
+class VKDataModel;
 class VKListViewSignal;
 class Workspace;
 
@@ -41,10 +42,15 @@ public:
     /// To be called before the project is closed: the analyses stay in the list.
     void leaveProject();
 
-    /// Lets it write its file for machine learning into the project's folder, and shows the file.
+    /// Lets it write its file for machine learning into the project's folder, and shows the file; beside it
+    /// goes what the grades rest on.
     void exportForLearning();
 
 private:
+    static bool isResults(const VKDataModel& table);
+    void tableOpened(const VKDataModel* table);
+    void tableExported(const VKDataModel* table, const QString& path);
+
     Workspace& m_workspace;
     RibbonHost& m_ribbon;
     ModuleLauncher& m_launcher;

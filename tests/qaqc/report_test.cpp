@@ -2,10 +2,17 @@
 
 #include "CheckReport.h"
 #include "CheckSession.h"
+#include "ModuleObserver.h"
+#include "TableView.h"
 #include "gradejob.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPointer>
 
 #include <fstream>
 #include <sstream>
@@ -62,6 +69,35 @@ TEST_F(Report, from_the_window_has_the_bytes_of_the_batch_graders_on_the_same_ra
     EXPECT_TRUE(bytes(path("window.html")) == expected);
     EXPECT_TRUE(messages(MessageLevel::Information).last().contains("window.html"));
     EXPECT_TRUE(errors().isEmpty());
+}
+
+TEST_F(Report, every_other_export_has_settings_version_and_digests_beside_it) {
+    const QString name = "flat-broad-01.S00";
+    dropNamed({name});
+    move(height(), 123);
+    editor()->slotEventOccured(ModuleObserver::dataEditorAction);
+    settle();
+    const QPointer<TableView> table = dynamic_cast<TableView*>(workspace().currentPage());
+    ASSERT_NE(table, nullptr);
+    table->exportTo(path("results.csv"));
+    workbench->qualityCheck().exportForLearning();
+    for (const QString& file : {path("results.origin.json"), path("dataSR.origin.json")}) {
+        const QJsonObject origin = QJsonDocument::fromJson(bytes(file)).object();
+        EXPECT_EQ(origin["version"].toString(), VORN_VERSION) << file.toStdString();
+        EXPECT_EQ(origin["settings"].toObject()["height"].toDouble(), height().value());
+        const QJsonObject input = origin["inputs"].toArray()[0].toObject();
+        const QByteArray raw = bytes(QDir(VORN_EXAMPLES).filePath(name));
+        EXPECT_EQ(input["sha256"].toString().toLatin1(),
+                  QCryptographicHash::hash(raw, QCryptographicHash::Sha256).toHex());
+        EXPECT_EQ(input["quality"].toInt(), 1) << "low enough a limit";
+    }
+    editor()->closeRequested();
+    settle();
+    workbench->qualityCheck().start();
+    ASSERT_NE(table, nullptr);
+    table->exportTo(path("late.csv"));
+    EXPECT_FALSE(QFile::exists(path("late.origin.json"))) << "of another check";
+    EXPECT_TRUE(messages(MessageLevel::Warning).last().contains("not known any more"));
 }
 
 TEST_F(Report, says_what_is_missing_and_where_it_could_not_be_written) {

@@ -1,6 +1,7 @@
 #include "CheckSession.h"
 
 #include "CheckActions.h"
+#include "CheckOrigin.h"
 #include "CheckReasons.h"
 #include "CheckReport.h"
 #include "CheckSelection.h"
@@ -71,6 +72,19 @@ void CheckSession::wireActions() {
     connect(&m_actions, &CheckActions::filterRequested, this, &CheckSession::setFilter);
     connect(&m_actions, &CheckActions::reportRequested, this, &CheckSession::askWhereToReport);
     m_actions.setOpen(true);
+}
+
+void CheckSession::addResults(const QObject* table) {
+    m_results.insert(table);
+    connect(table, &QObject::destroyed, this, [this, table] { m_results.remove(table); });
+}
+
+void CheckSession::writeOriginBeside(const QString& exported) {
+    try {
+        CheckOrigin::writeBeside(exported, m_grades);
+    } catch (const std::exception& error) {
+        VKError::dispatchError(error);
+    }
 }
 
 void CheckSession::writeReport(const QString& path) {

@@ -4,6 +4,7 @@
 #include "CheckGrades.h"
 
 #include <QObject>
+#include <QSet>
 
 class CheckActions;
 class VKListViewSignal;
@@ -24,6 +25,13 @@ public:
     CheckGrades& grades() { return m_grades; }
     CheckFilter& filter() { return m_filter; }
 
+    /// Takes note of a table of results that was opened in this check: its cells follow the sliders.
+    void addResults(const QObject* table);
+    bool holdsResults(const QObject* table) const { return m_results.contains(table); }
+
+    /// Writes what the grades rest on beside an export; success and failure go to the log.
+    void writeOriginBeside(const QString& exported);
+
     /// Writes the report; success and failure go to the log.
     void writeReport(const QString& path);
 
@@ -40,4 +48,5 @@ private:
     CheckActions& m_actions;
     CheckGrades m_grades;
     CheckFilter m_filter;
+    QSet<const QObject*> m_results;
 };
