@@ -30,10 +30,11 @@ std::string remark(std::string_view english, Language language) {
 }
 
 std::string warningText(const rockeval::Warning& warning, Language language) {
-    const std::string text = remark(warning.text, language);
-    return warning.line == 0 ? text
-                             : said(language, "line ", "ligne ") + std::to_string(warning.line) +
-                                   said(language, ": ", " : ") + text;
+    if (language == Language::english) {
+        return rockeval::warningText(warning);
+    }
+    const std::string place = warning.line == 0 ? "" : "ligne " + std::to_string(warning.line) + " : ";
+    return place + remark(warning.text, language);
 }
 
 std::string failureText(const std::string& path, const rockeval::ReadError& error, Language language) {

@@ -1,6 +1,6 @@
 #include "inputfiles.h"
 
-#include "naturalorder.h"
+#include "gradereport/naturalorder.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -55,7 +55,7 @@ void resolve(const std::string& path, InputFiles& inputs) {
 }
 
 void putInOrder(std::vector<std::string>& files) {
-    std::sort(files.begin(), files.end(), naturallyLess);
+    std::sort(files.begin(), files.end(), gradereport::naturallyLess);
     files.erase(std::unique(files.begin(), files.end()), files.end());
 }
 

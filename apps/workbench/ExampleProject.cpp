@@ -1,9 +1,11 @@
 #include "ExampleProject.h"
 
+#include "RawOrigin.h"
 #include "TAnalysisData.h"
 #include "TDatabase.h"
 #include "Transaction.h"
 #include "VKError.h"
+#include "VKObject2Analysis.h"
 #include "rockeval/channels.h"
 #include "rockeval/signalreader.h"
 
@@ -15,14 +17,17 @@
 
 namespace {
 
-TAnalysisData curveOf(const QString& path) {
-    QFile file(path);
+void store(TechDB::TDatabase& project, const QFileInfo& example) {
+    QFile file(example.filePath());
     file.open(QIODevice::ReadOnly);
     const QByteArray bytes = file.readAll();
-    const rockeval::RawSignal signal =
-        rockeval::readSignal({bytes.constData(), static_cast<std::size_t>(bytes.size())}, path.toStdString());
+    const rockeval::RawSignal signal = rockeval::readSignal(
+        {bytes.constData(), static_cast<std::size_t>(bytes.size())}, example.fileName().toStdString());
     rockeval::Channels channels = rockeval::toChannels(signal.curve);
-    return {std::move(channels.time), std::move(channels.fid)};
+    const VKObject2Analysis* const stored =
+        project.addAnalysis(example.fileName(), QStringLiteral("Rock-Eval VI"),
+                            {std::move(channels.time), std::move(channels.fid)});
+    project.setOrigin(stored->key(), RawOrigin::of(example.fileName(), bytes, signal.warnings));
 }
 
 } // namespace
@@ -32,7 +37,7 @@ void ExampleProject::fill(TechDB::TDatabase& project) {
     const QFileInfoList files = QDir(QStringLiteral(":/examples")).entryInfoList(QDir::Files, QDir::Name);
     for (const QFileInfo& file : files) {
         try {
-            project.addAnalysis(file.fileName(), QStringLiteral("Rock-Eval VI"), curveOf(file.filePath()));
+            store(project, file);
         } catch (const std::exception& error) {
             VKError::dispatchError(error);
         }

@@ -1,5 +1,6 @@
 #include "Headless.h"
 
+#include "CheckActions.h"
 #include "ImportTour.h"
 #include "ModuleObserver.h"
 #include "PictureFolder.h"
@@ -13,6 +14,7 @@
 #include "Workbench.h"
 #include "Workspace.h"
 
+#include <QAction>
 #include <QMap>
 
 #include <exception>
@@ -59,6 +61,18 @@ void printMessages(const MessageLogModel& log) {
     }
 }
 
+/// The flat ones alone in the list.
+void showFilter(Workbench& workbench, const PictureFolder& pictures) {
+    const CheckActions& actions = workbench.qualityCheck().actions();
+    actions.onlyAction(gradereport::GradeKind::flat)->trigger();
+    actions.nextAction()->trigger();
+    PictureFolder::settle();
+    pictures.write(QStringLiteral("filter.png"), workbench.window());
+    actions.allAction()->trigger();
+    workbench.qualityCheck().list()->selectAll();
+    PictureFolder::settle();
+}
+
 void gradeAll(Workbench& workbench, const PictureFolder& pictures) {
     workbench.qualityCheck().send(allAnalyses(*workbench.projects().projectDatabase()));
     workbench.qualityCheck().bar()->slotEventOccured(ModuleObserver::dataEditorAction);
@@ -71,6 +85,7 @@ void gradeAll(Workbench& workbench, const PictureFolder& pictures) {
     workbench.qualityCheck().list()->selectAll();
     PictureFolder::settle();
     pictures.write(QStringLiteral("window.png"), workbench.window());
+    showFilter(workbench, pictures);
     const QVector<const TechPlot::VKViewer2D*> plots = plotsOn(workspace.currentPage());
     pictures.write(QStringLiteral("plots.png"), plots.mid(0, plotsInPicture));
     pictures.write(QStringLiteral("plots.pdf"), plots);

@@ -52,7 +52,7 @@ QString filePath(const QString& folder) {
 
 } // namespace
 
-void LearningExport::run(VKRibbonModuleBar& bar, Workspace& workspace) {
+QString LearningExport::run(VKRibbonModuleBar& bar, Workspace& workspace) {
     const QString folder = projectFolder();
     const QString path = filePath(folder);
     QFile::remove(path); // what is there afterwards is new
@@ -69,11 +69,12 @@ void LearningExport::run(VKRibbonModuleBar& bar, Workspace& workspace) {
                 "Le fichier <b>%1</b> n'a pas pu être écrit : vérifiez que l'écriture est permise dans "
                 "son dossier.")
                 .arg(shown));
-        return;
+        return {};
     }
     MessageLoggerInterface::Information(
         translated("The curves and their grades were exported to <b>%1</b>.",
                    "Les courbes et leurs grades ont été exportés vers <b>%1</b>.")
             .arg(shown));
     workspace.addPage(new TextPage(QFileInfo(path).fileName(), QString::fromUtf8(file.readAll())));
+    return path;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class VKRibbonModuleBar;
 class Workspace;
 
@@ -8,6 +10,7 @@ class Workspace;
 class LearningExport {
 public:
     /// Has the file written into the folder of the open project, tells on the log where it went, and shows
-    /// it in the workspace. A file that did not come about is an Error on the log.
-    static void run(VKRibbonModuleBar& bar, Workspace& workspace);
+    /// it in the workspace. A file that did not come about is an Error on the log. Gives the path; null
+    /// where there is no file.
+    static QString run(VKRibbonModuleBar& bar, Workspace& workspace);
 };

@@ -1,5 +1,6 @@
 #include "MainMenu.h"
 
+#include "CheckActions.h"
 #include "ImportModules.h"
 #include "LanguageSwitch.h"
 #include "LookSwitch.h"
@@ -42,7 +43,7 @@ MainMenu::MainMenu(MainWindow& window, const ProjectCommands& projects, ImportMo
       m_guide(action(QStringLiteral("help"))),
       m_helpHere(action(QStringLiteral("help"), QKeySequence(Qt::Key_F1))),
       m_about(action(QStringLiteral("info"))) {
-    buildMenus(projects);
+    buildMenus(projects, qualityCheck);
     connectModules(imports, qualityCheck);
     buildStartBar(projects);
     buildLanguages(language);
@@ -56,7 +57,7 @@ QAction* MainMenu::action(const QString& icon, const QKeySequence& shortcut) {
     return made;
 }
 
-void MainMenu::buildMenus(const ProjectCommands& projects) {
+void MainMenu::buildMenus(const ProjectCommands& projects, const QualityCheck& qualityCheck) {
     m_project->addActions({projects.newAction(), projects.openAction(), projects.serverAction()});
     m_project->addMenu(projects.recentMenu());
     m_project->addActions({projects.exampleAction(), projects.backupAction(), projects.serverCopyAction()});
@@ -75,6 +76,7 @@ void MainMenu::buildMenus(const ProjectCommands& projects) {
     m_modules->addActions({m_sourceRock, m_gas, m_custom});
     m_modules->addSeparator();
     m_modules->addActions({m_qualityCheck, m_export});
+    m_window.menuBar()->insertMenu(m_view->menuAction(), qualityCheck.actions().menu());
     m_view->addMenu(m_languages);
     m_view->addMenu(m_looks);
     m_help->addActions({m_guide, m_helpHere, m_about});

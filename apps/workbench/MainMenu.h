@@ -36,7 +36,7 @@ signals:
 
 private:
     QAction* action(const QString& icon, const QKeySequence& shortcut = {});
-    void buildMenus(const ProjectCommands& projects);
+    void buildMenus(const ProjectCommands& projects, const QualityCheck& qualityCheck);
     void connectModules(ImportModules& imports, QualityCheck& qualityCheck);
     void buildStartBar(const ProjectCommands& projects);
     void buildLanguages(LanguageSwitch& language);

@@ -1,5 +1,7 @@
 #include "QualityCheck.h"
 
+#include "CheckActions.h"
+#include "CheckSession.h"
 #include "LearningExport.h"
 #include "MessageLoggerInterface.h"
 #include "ModuleLauncher.h"
@@ -8,6 +10,7 @@
 #include "SliderScientific.h"
 #include "SourceRockQAQCCtrl.h"
 #include "TrialGate.h"
+#include "VKDataModel.h"
 #include "VKListViewSignal.h"
 #include "VKObject2Decoder.h"
 #include "Workspace.h"
@@ -17,8 +20,34 @@
 #include <memory>
 
 QualityCheck::QualityCheck(RibbonHost& ribbon, ModuleLauncher& launcher, Workspace& workspace)
-    : m_workspace(workspace), m_ribbon(ribbon), m_launcher(launcher), m_gate(new TrialGate(this)) {
+    : m_workspace(workspace), m_ribbon(ribbon), m_launcher(launcher), m_gate(new TrialGate(this)),
+      m_actions(new CheckActions(this)) {
     connect(m_gate, &TrialGate::delivered, &m_workspace, &Workspace::refreshTables);
+    connect(&m_workspace, &Workspace::tableOpened, this, &QualityCheck::tableOpened);
+    connect(&m_workspace, &Workspace::tableExported, this, &QualityCheck::tableExported);
+}
+
+/// The name that the module gives to the tables of its results.
+bool QualityCheck::isResults(const VKDataModel& table) {
+    return table.name() == QLatin1String("Source Rock") && table.project() == QLatin1String("New project");
+}
+
+void QualityCheck::tableOpened(const VKDataModel* table) {
+    if (m_session != nullptr && isResults(*table)) {
+        m_session->addResults(table);
+    }
+}
+
+void QualityCheck::tableExported(const VKDataModel* table, const QString& path) {
+    if (m_session != nullptr && m_session->holdsResults(table)) {
+        m_session->writeOriginBeside(path);
+    } else if (isResults(*table)) {
+        MessageLoggerInterface::Warning(
+            tr("The settings behind these grades are not known any more, since their quality check was "
+               "closed: open it again and export its results.",
+               "Les réglages de ces grades ne sont plus connus, car leur contrôle qualité a été fermé : "
+               "rouvrez-le et exportez ses résultats."));
+    }
 }
 
 void QualityCheck::start() {
@@ -30,10 +59,21 @@ void QualityCheck::start() {
     m_bar = m_ribbon.barAddedBy([&controller] { controller = new Vorn::SourceRockQAQC::SourceRockQAQCCtrl; });
     m_launcher.adopt(controller);
     m_gate->guard(m_bar);
+    m_session = CheckSession::begin(*m_bar, *m_actions);
     const QList<SliderScientific*> sliders = m_bar->findChildren<SliderScientific*>();
     for (const SliderScientific* const slider : sliders) {
         // Behind the module's own connection, so that the tables read the new grades.
         connect(slider, &SliderScientific::valueChanged, &m_workspace, &Workspace::refreshTables);
+    }
+}
+
+CheckSession* QualityCheck::session() const {
+    return m_session.data();
+}
+
+void QualityCheck::leaveProject() {
+    if (m_session != nullptr) {
+        m_session->grades().readAll();
     }
 }
 
@@ -57,5 +97,8 @@ void QualityCheck::exportForLearning() {
                "Il n'y a rien à exporter : ouvrez d'abord le contrôle qualité et déposez-y des analyses."));
         return;
     }
-    LearningExport::run(*m_bar, m_workspace);
+    const QString path = LearningExport::run(*m_bar, m_workspace);
+    if (!path.isEmpty() && m_session != nullptr) {
+        m_session->writeOriginBeside(path);
+    }
 }

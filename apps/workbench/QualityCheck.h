@@ -7,9 +7,12 @@
 #include <QObject>
 #include <QPointer>
 
+class CheckActions;
+class CheckSession;
 class ModuleLauncher;
 class RibbonHost;
 class TrialGate;
+class VKDataModel;
 class VKListViewSignal;
 class Workspace;
 
@@ -28,16 +31,31 @@ public:
     /// The list of signals; null while it isn't open.
     VKListViewSignal* list() const;
 
+    /// Null while it isn't open, or can't be helped with.
+    CheckSession* session() const;
+    /// What can be done in it by menu and keys.
+    CheckActions& actions() const { return *m_actions; }
+
     /// Drops the objects on the list as a mouse would, and opens the quality check before if need be.
     void send(const QList<const VKObject2*>& objects);
 
-    /// Lets it write its file for machine learning into the project's folder, and shows the file.
+    /// To be called before the project is closed: the analyses stay in the list.
+    void leaveProject();
+
+    /// Lets it write its file for machine learning into the project's folder, and shows the file; beside it
+    /// goes what the grades rest on.
     void exportForLearning();
 
 private:
+    static bool isResults(const VKDataModel& table);
+    void tableOpened(const VKDataModel* table);
+    void tableExported(const VKDataModel* table, const QString& path);
+
     Workspace& m_workspace;
     RibbonHost& m_ribbon;
     ModuleLauncher& m_launcher;
     TrialGate* m_gate;
     QPointer<VKRibbonModuleBar> m_bar;
+    CheckActions* m_actions;
+    QPointer<CheckSession> m_session;
 };

@@ -1,5 +1,6 @@
 #include "Workbench.h"
 
+#include "CheckActions.h"
 #include "MainMenu.h"
 #include "ProjectTree.h"
 #include "TDatabase.h"
@@ -23,6 +24,8 @@ Workbench::Workbench()
     wireTree();
     connect(&m_language, &LanguageSwitch::languageChanged, &m_projectCommands, &ProjectCommands::translate);
     connect(&m_language, &LanguageSwitch::languageChanged, m_menu, &MainMenu::translate);
+    connect(&m_language, &LanguageSwitch::languageChanged, &m_qualityCheck.actions(),
+            &CheckActions::translate);
     connect(&m_language, &LanguageSwitch::languageChanged, this, &Workbench::showTitle);
     // Number boxes write as their window does.
     connect(&m_language, &LanguageSwitch::languageChanged, &m_window,
@@ -44,6 +47,7 @@ Workbench::~Workbench() {
 
 void Workbench::wireProject() {
     connect(&m_projects, &ProjectMgr::closing, this, [this] {
+        m_qualityCheck.leaveProject();
         m_window.tree().setProject(nullptr);
         m_window.workspace().closePages();
     });

@@ -107,6 +107,10 @@ void Workspace::addTable(std::unique_ptr<VKDataModel> model) {
     auto* const view = new TableView(std::move(model));
     view->setWindowTitle(view->title());
     connect(view, &TableView::titleChanged, view, &QWidget::setWindowTitle);
+    const VKDataModel* const table = view->model();
+    connect(view, &TableView::exported, this,
+            [this, table](const QString& path) { emit tableExported(table, path); });
+    emit tableOpened(table);
     addPage(view);
 }
 

@@ -43,6 +43,12 @@ public:
     /// Lets the tables show what their models say now, where cells are computed at every read.
     void refreshTables();
 
+signals:
+    /// A table is about to be shown.
+    void tableOpened(const VKDataModel* table);
+    /// A table was written to a file.
+    void tableExported(const VKDataModel* table, const QString& path);
+
 protected:
     void changeEvent(QEvent* event) override;
 

@@ -21,6 +21,8 @@ public:
                      const double& maximum, const QString& help);
 
     double value() const { return m_value; }
+    // The values it can be moved to.
+    const SliderScale& scale() const { return m_scale; }
 
 signals:
     // Once for each new value that the user chose; a number that is being typed counts when it is complete.

@@ -1,5 +1,6 @@
 #include "VKTreeWidget.h"
 
+#include "TEmptyHint.h"
 #include "TFileButton.h"
 #include "TavrelColors.h"
 
@@ -79,22 +80,49 @@ void VKTreeWidget::dropEvent(QDropEvent* event) {
 
 void VKTreeWidget::connectNotify(const QMetaMethod& signal) {
     QTreeWidget::connectNotify(signal);
-    if (m_fileButton != nullptr || signal != QMetaMethod::fromSignal(&VKTreeWidget::dataDroppped))
+    if (m_headerWidget != nullptr || signal != QMetaMethod::fromSignal(&VKTreeWidget::dataDroppped))
         return;
-    m_fileButton = new TFileButton(this);
-    connect(m_fileButton, &TFileButton::chosen, this, &VKTreeWidget::dataDroppped);
+    auto* const button = new TFileButton(this);
+    connect(button, &TFileButton::chosen, this, &VKTreeWidget::dataDroppped);
+    setHeaderWidget(button);
+}
+
+void VKTreeWidget::setHeaderWidget(QWidget* widget) {
+    delete m_headerWidget;
+    m_headerWidget = widget;
+    m_headerWidget->setParent(this);
     updateGeometries();
-    m_fileButton->show();
+    m_headerWidget->show();
+}
+
+// A widget in the header whose size has changed asks for its place anew.
+bool VKTreeWidget::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest)
+        updateGeometries();
+    return QTreeWidget::event(event);
 }
 
 void VKTreeWidget::updateGeometries() {
     QTreeWidget::updateGeometries();
-    if (m_fileButton == nullptr)
+    if (m_headerWidget == nullptr)
         return;
     const QRect room = header()->geometry();
-    const QSize size = m_fileButton->sizeHint().boundedTo(room.size());
-    m_fileButton->setGeometry(
+    const QSize size = m_headerWidget->sizeHint().boundedTo(room.size());
+    m_headerWidget->setGeometry(
         QStyle::alignedRect(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter, size, room));
+}
+
+void VKTreeWidget::setAllHiddenText(const QString& text) {
+    m_allHiddenText = text;
+    viewport()->update();
+}
+
+bool VKTreeWidget::hidesAll() const {
+    for (int row = 0; row < topLevelItemCount(); ++row) {
+        if (!topLevelItem(row)->isHidden())
+            return false;
+    }
+    return topLevelItemCount() > 0;
 }
 
 void VKTreeWidget::pasteFiles() {
@@ -131,6 +159,8 @@ void VKTreeWidget::setHovered(bool hovered) {
 
 void VKTreeWidget::paintEvent(QPaintEvent* event) {
     QTreeWidget::paintEvent(event);
+    if (!m_allHiddenText.isEmpty() && hidesAll())
+        TEmptyHint::paint(viewport(), m_allHiddenText, 12);
     const bool invites = topLevelItemCount() == 0 && !m_dropText.isEmpty();
     if (!invites && !m_hovered)
         return;

@@ -2,8 +2,6 @@
 
 #include <QTreeWidget>
 
-class TFileButton;
-
 // A tree that takes drops and says, while it is empty, what may be dropped on it.
 //
 // Files: a drag that brings local files is accepted when somebody listens to dataDroppped; dropping it
@@ -24,6 +22,13 @@ public:
     void setDropText(const QString& text);
     QString dropText() const { return m_dropText; }
 
+    // Plain text, shown while the tree has items and all of them are hidden.
+    void setAllHiddenText(const QString& text);
+
+    // Puts a widget at the end of the header, in place of the button that asks for files. The tree takes it
+    // over, and what it had there before goes.
+    void setHeaderWidget(QWidget* widget);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -38,6 +43,7 @@ protected:
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void updateGeometries() override;
@@ -46,9 +52,11 @@ protected:
 private:
     bool takesFilesOf(const QMimeData* offered) const;
     void pasteFiles();
+    bool hidesAll() const;
     void setHovered(bool hovered);
 
-    TFileButton* m_fileButton = nullptr; // as soon as somebody listens for files
+    QWidget* m_headerWidget = nullptr; // asks for files as soon as somebody listens for them
     QString m_dropText;
+    QString m_allHiddenText;
     bool m_hovered = false;
 };

@@ -32,6 +32,10 @@ AnalysisInfo analysisOf(const QSqlQuery& row) {
     return info;
 }
 
+QStringList linesOf(const QString& text) {
+    return text.isEmpty() ? QStringList() : text.split(QLatin1Char('\n'));
+}
+
 [[noreturn]] void throwTaken(const QString& name) {
     throw VKError(translated("An analysis named <b>%1</b> is already stored.",
                              "Une analyse nommée <b>%1</b> est déjà enregistrée.")
@@ -195,6 +199,24 @@ TAnalysisData AnalysisStore::curve(qint64 key) const {
         throwDamaged(name, reason);
     }
     return curve;
+}
+
+std::optional<AnalysisOrigin> AnalysisStore::origin(qint64 key) const {
+    std::optional<AnalysisOrigin> found;
+    m_connection.select(QStringLiteral("SELECT file, sha256, warnings FROM origins WHERE analysis_id = ?"),
+                        {key}, [&found](const QSqlQuery& row) {
+                            found = AnalysisOrigin{row.value(0).toString(), row.value(1).toString(),
+                                                   linesOf(row.value(2).toString())};
+                        });
+    return found;
+}
+
+void AnalysisStore::setOrigin(qint64 key, const AnalysisOrigin& origin) {
+    m_connection.execute(QStringLiteral("DELETE FROM origins WHERE analysis_id = ?"), {key});
+    m_connection.execute(
+        QStringLiteral("INSERT INTO origins (analysis_id, file, sha256, warnings) VALUES (?, ?, ?, ?)"),
+        {key, SqlConnection::text(origin.file), SqlConnection::text(origin.sha256),
+         SqlConnection::text(origin.warnings.join(QLatin1Char('\n')))});
 }
 
 QStringList AnalysisStore::problems() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AnalysisOrigin.h"
 #include "StoredObject.h"
 #include "TAnalysisData.h"
 
@@ -36,6 +37,11 @@ public:
 
     /// Refuses stored bytes that are no usable curve of the stored number of points.
     TAnalysisData curve(qint64 key) const;
+
+    /// Nothing where it isn't known.
+    std::optional<AnalysisOrigin> origin(qint64 key) const;
+    /// In place of what was known before.
+    void setOrigin(qint64 key, const AnalysisOrigin& origin);
 
     /// A sentence for each stored curve that `curve` would refuse for its size.
     QStringList problems() const;

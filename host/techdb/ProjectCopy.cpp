@@ -85,7 +85,8 @@ const QVector<ProjectCopy::Group>& ProjectCopy::groups() {
     };
     static const QVector<Group> all{
         {{{"analyses", "id, name, analysis_type, created, point_count, sort_key, search_name", "id", "id"},
-          {"curves", "analysis_id, points", "analysis_id", "analysis_id"}},
+          {"curves", "analysis_id, points", "analysis_id", "analysis_id"},
+          {"origins", "analysis_id, file, sha256, warnings", "analysis_id", "analysis_id"}},
          100},
         {{{"datasets", "id, name, created, sort_key, search_name", "id", "id"}}, 1000},
         {{{"samples", "id, dataset_id, name, sort_key, search_name", "id", "id"},

@@ -86,6 +86,17 @@ QStringList secondVersion() {
            };
 }
 
+// An analysis that was not read from a raw file has no row.
+QStringList thirdVersion() {
+    return {
+        QStringLiteral("CREATE TABLE origins ("
+                       " analysis_id BIGINT PRIMARY KEY REFERENCES analyses (id) ON DELETE CASCADE,"
+                       " file TEXT NOT NULL,"
+                       " sha256 TEXT NOT NULL,"
+                       " warnings TEXT NOT NULL)"),
+    };
+}
+
 void writeKeys(SqlConnection& connection, const QString& table) {
     QVector<QPair<qint64, QString>> names;
     connection.select(QStringLiteral("SELECT id, name FROM %1").arg(table), {},
@@ -113,6 +124,7 @@ QStringList probes() {
         QStringLiteral("SELECT id, name, analysis_type, created, point_count, sort_key, search_name"
                        " FROM analyses LIMIT 0"),
         QStringLiteral("SELECT analysis_id, points FROM curves LIMIT 0"),
+        QStringLiteral("SELECT analysis_id, file, sha256, warnings FROM origins LIMIT 0"),
         QStringLiteral("SELECT id, name, created, sort_key, search_name FROM datasets LIMIT 0"),
         QStringLiteral("SELECT id, dataset_id, name, sort_key, search_name FROM samples LIMIT 0"),
         QStringLiteral(
@@ -130,7 +142,8 @@ ProjectSchema::ProjectSchema(const QStringList& creation, const QVector<SchemaSt
     : DatabaseSchema(DatabaseKind::Project, creation, migrations, probes()) {}
 
 const ProjectSchema& ProjectSchema::current() {
-    static const ProjectSchema schema(firstVersion() + secondVersion(), {toSecondVersion()});
+    static const ProjectSchema schema(firstVersion() + secondVersion() + thirdVersion(),
+                                      {toSecondVersion(), {thirdVersion(), {}}});
     return schema;
 }
 

@@ -177,6 +177,16 @@ TAnalysisData TDatabase::curve(qint64 analysis) const {
     return AnalysisStore(*m_connection).curve(analysis);
 }
 
+std::optional<AnalysisOrigin> TDatabase::origin(qint64 analysis) const {
+    return AnalysisStore(*m_connection).origin(analysis);
+}
+
+void TDatabase::setOrigin(qint64 analysis, const AnalysisOrigin& origin) {
+    Transaction transaction(*this);
+    AnalysisStore(*m_connection).setOrigin(analysis, origin);
+    transaction.commit();
+}
+
 bool TDatabase::analysisData(const VKObject2Analysis* analysis, TAnalysisData** data) {
     if (data == nullptr) {
         return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AnalysisOrigin.h"
 #include "CopyProgress.h"
 #include "NameRange.h"
 #include "ObjectChange.h"
@@ -80,6 +81,12 @@ public:
     void removeAnalysis(qint64 key);
     /// The stored curve, bit for bit. Refuses what `addAnalysis` would, in whatever way it came to the file.
     virtual TAnalysisData curve(qint64 analysis) const;
+
+    /// Where the curve was read from; nothing where that isn't known, because it was stored by an older
+    /// version or made otherwise.
+    std::optional<AnalysisOrigin> origin(qint64 analysis) const;
+    /// In place of what was known before.
+    void setOrigin(qint64 analysis, const AnalysisOrigin& origin);
 
     /// Gives the stored curve of an analysis or of its signal. It belongs to the database and is valid until
     /// the next call for an object of the same database, or until that is closed. If it can't be read, the

@@ -21,6 +21,7 @@ QTreeWidgetItem* VKListViewVKObject2::addObject(const VKObject2* object) {
     }
     auto* const item = new QTreeWidgetItem({shown->displayName()});
     addTopLevelItem(item);
+    emit objectAdded(item, shown);
     return item;
 }
 

@@ -27,6 +27,10 @@ public:
     /// Adds an item at the end; null for an object that this list doesn't show, or for no object.
     QTreeWidgetItem* addObject(const VKObject2* object);
 
+signals:
+    /// The object that the new item stands for: the one shown for what was dropped or added.
+    void objectAdded(QTreeWidgetItem* item, const VKObject2* object);
+
 protected:
     /// The object to be listed when this one is dropped or added; null if this list doesn't show it.
     virtual const VKObject2* shownFor(const VKObject2* object) const;

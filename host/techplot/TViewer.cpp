@@ -2,9 +2,12 @@
 
 #include "TEditorRegistry.h"
 #include "TViewer2DEmitterConnect.h"
+#include "TViewerNote.h"
+#include "TViewerNotes.h"
 #include "TViewerTitle.h"
 #include "TavrelColors.h"
 #include <QApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -25,6 +28,7 @@ void TViewer::setName(const QString& name) {
     setAccessibleName(name);
     if (m_title != nullptr)
         m_title->setName(name);
+    askForNote();
 }
 
 void TViewer::requestClose() {
@@ -51,6 +55,23 @@ void TViewer::showEvent(QShowEvent* event) {
     if (m_title == nullptr)
         build();
     QWidget::showEvent(event);
+    askForNote();
+}
+
+QString TViewer::note() const {
+    return m_note == nullptr ? QString() : m_note->text();
+}
+
+// One out of sight asks when it is shown.
+void TViewer::askForNote() {
+    if (m_note != nullptr && isVisible())
+        m_note->setText(TViewerNotes::returnMe().note(m_name));
+}
+
+void TViewer::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        askForNote();
+    QWidget::changeEvent(event);
 }
 
 void TViewer::build() {
@@ -59,11 +80,14 @@ void TViewer::build() {
     m_title->setName(m_name);
     connect(m_title, &TViewerTitle::closeClicked, this, &TViewer::requestClose);
     connect(m_title, &TViewerTitle::exportClicked, this, &TViewer::exportRequested);
+    m_note = new TViewerNote(this);
+    connect(&TViewerNotes::returnMe(), &TViewerNotes::changed, this, &TViewer::askForNote);
     m_focus = connect(qApp, &QApplication::focusChanged, this, &TViewer::followFocus);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(1, 1, 1, 1);
     rows->setSpacing(0);
     rows->addWidget(m_title);
+    rows->addWidget(m_note); // above the plot, so that it is in sight where the viewer's foot is not
     rows->addWidget(body, 1);
 }
 

@@ -6,9 +6,11 @@
 namespace TechPlot {
 
 class TViewer2DEmitterConnect;
+class TViewerNote;
 class TViewerTitle;
 
-/// Base of what an editor holds: a framed widget with a title, a close button and a body.
+/// Base of what an editor holds: a framed widget with a title, a close button, a body and, where there is
+/// something to say, a note.
 ///
 /// It is made with nothing inside and builds title and body when it is shown for the first time, so that
 /// a thousand viewers of which three are seen cost little more than three. An editor owns the viewers
@@ -35,6 +37,9 @@ public:
     /// later than the running event. While the listeners are told, it does nothing.
     void requestClose();
 
+    /// The sentence under the title (see TViewerNotes) as it was when the viewer was last on screen.
+    QString note() const;
+
     /// Whether title and body have been built.
     bool isBuilt() const { return m_title != nullptr; }
 
@@ -54,14 +59,17 @@ protected:
 
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void build();
+    void askForNote();
     void followFocus(const QWidget* old, const QWidget* now);
 
     QString m_name;
     TViewer2DEmitterConnect* m_emitter;
     TViewerTitle* m_title = nullptr;
+    TViewerNote* m_note = nullptr;
     quint64 m_serial;
     QMetaObject::Connection m_focus;
     bool m_deletable = true;

@@ -10,7 +10,7 @@ namespace TechPlot {
 
 namespace {
 constexpr int gap = 8;
-constexpr int leastLines = 12;
+constexpr int leastLines = 14;
 } // namespace
 
 TViewerColumn::TViewerColumn(QWidget* parent) : QAbstractScrollArea(parent) {

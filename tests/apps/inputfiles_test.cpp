@@ -1,6 +1,6 @@
 #include "digest.h"
+#include "gradereport/naturalorder.h"
 #include "inputfiles.h"
-#include "naturalorder.h"
 #include "temporaryfolder.h"
 
 #include <gtest/gtest.h>
@@ -11,9 +11,9 @@
 namespace {
 
 using grade::InputFiles;
-using grade::naturallyLess;
 using grade::PathEnd;
 using grade::PathList;
+using gradereport::naturallyLess;
 
 InputFiles findInputFiles(const std::vector<std::string>& paths, const std::string& input = {},
                           PathEnd end = PathEnd::line) {
@@ -27,11 +27,11 @@ InputFiles findInputFiles(const std::vector<std::string>& paths, const std::stri
 TEST(NaturalOrder, numbers_sort_by_value_and_letters_without_case) {
     std::vector<std::string> names = {"b1", "a10", "A9", "a009", "a9", "a", "a9x", "a18446744073709551617",
                                       "",   "a9.5"};
-    std::sort(names.begin(), names.end(), naturallyLess);
+    std::sort(names.begin(), names.end(), gradereport::naturallyLess);
     EXPECT_EQ(names, (std::vector<std::string>{"", "a", "A9", "a009", "a9", "a9.5", "a9x", "a10",
                                                "a18446744073709551617", "b1"}));
     for (const std::string& a : names) {
-        EXPECT_FALSE(naturallyLess(a, a));
+        EXPECT_FALSE(gradereport::naturallyLess(a, a));
     }
 }
 

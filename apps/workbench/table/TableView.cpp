@@ -114,6 +114,7 @@ void TableView::exportTo(const QString& path) {
         MessageLoggerInterface::Information(
             tr("The table was exported to <b>%1</b>.", "Le tableau a été exporté vers <b>%1</b>.")
                 .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+        emit exported(path);
     } catch (const std::exception& error) {
         VKError::dispatchError(error);
     }

@@ -42,6 +42,8 @@ public:
     void exportTo(const QString& path);
 
 signals:
+    /// The table was written to a file.
+    void exported(const QString& path);
     /// The model was found under another name, or the language has changed.
     void titleChanged(const QString& title);
 

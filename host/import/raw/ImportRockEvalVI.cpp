@@ -1,7 +1,9 @@
 #include "ImportRockEvalVI.h"
 
+#include "LastReadCurve.h"
 #include "MessageLoggerInterface.h"
 #include "RawFileKind.h"
+#include "RawOrigin.h"
 #include "RegularFile.h"
 #include "RockEvalResults.h"
 #include "TFileBuffer.h"
@@ -181,6 +183,8 @@ void ImportRockEvalVI::readContent() {
     m_time = std::move(channels.time);
     m_fid = std::move(channels.fid);
     m_count = static_cast<int>(m_time.size());
+    LastReadCurve::returnMe().remember(
+        {m_time, m_fid}, RawOrigin::of(QFileInfo(m_name).absoluteFilePath(), bytes, signal.warnings));
     logWarnings(shown(m_name), signal.warnings);
 }
 

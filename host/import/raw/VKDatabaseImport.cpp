@@ -4,6 +4,7 @@
 #include "DatabaseFile.h"
 #include "ImportSession.h"
 #include "ImportedName.h"
+#include "LastReadCurve.h"
 #include "MessageLoggerInterface.h"
 #include "NameReservations.h"
 #include "NumberedName.h"
@@ -326,6 +327,21 @@ void VKDatabaseImport::save(const QString& name) {
     m_givenOut.remove(name);
 }
 
+namespace {
+
+const VKObject2Analysis* storedWithOrigin(TechDB::TDatabase& project, const QString& name,
+                                          const QString& analysisType, const TAnalysisData& curve) {
+    Transaction transaction(project);
+    const VKObject2Analysis* const stored = project.addAnalysisOnce(name, analysisType, curve);
+    if (const auto origin = LastReadCurve::returnMe().originOf(curve)) {
+        project.setOrigin(stored->key(), *origin);
+    }
+    transaction.commit();
+    return stored;
+}
+
+} // namespace
+
 void VKDatabaseImport::push(TechDB::TDatabase* project, const VKObject2* object) {
     const auto* const analysis = dynamic_cast<const VKObject2Analysis*>(object);
     if (project == nullptr || analysis == nullptr || analysis->db() != this) {
@@ -339,7 +355,7 @@ void VKDatabaseImport::push(TechDB::TDatabase* project, const VKObject2* object)
     const std::optional<AnalysisInfo> info = AnalysisStore(connection()).byKey(analysis->key());
     const TAnalysisData curve = this->curve(analysis->key());
     const VKObject2Analysis* const stored =
-        project->addAnalysisOnce(analysis->name(), info->analysisType, curve);
+        storedWithOrigin(*project, analysis->name(), info->analysisType, curve);
     MessageLoggerInterface::Information(
         stored->name() == analysis->name()
             ? tr("The analysis <b>%1</b> is in the project.", "L'analyse <b>%1</b> est dans le projet.")

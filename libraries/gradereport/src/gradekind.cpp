@@ -5,8 +5,8 @@
 
 namespace gradereport {
 
-GradeKind kindOf(const GradeRecord& record) {
-    switch (record.quality) {
+GradeKind kindOfQuality(int quality) {
+    switch (quality) {
     case 0:
         return GradeKind::none;
     case 1:
@@ -18,6 +18,10 @@ GradeKind kindOf(const GradeRecord& record) {
     default:
         return GradeKind::other;
     }
+}
+
+GradeKind kindOf(const GradeRecord& record) {
+    return kindOfQuality(record.quality);
 }
 
 std::string_view kindWord(GradeKind kind, Language language) {

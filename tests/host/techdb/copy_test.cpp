@@ -15,6 +15,8 @@ protected:
         for (int i = 0; i < 250; ++i) {
             database->addAnalysis(QStringLiteral("analysis %1").arg(i), "pyrolysis", ramp(3 + i % 7));
         }
+        database->setOrigin(database->getAnalysis("analysis 3")->key(),
+                            {"/raw/ä.S00", "0a", {"line 2: x", "y"}});
         database->removeAnalysis(database->getAnalysis("analysis 7")->key());
         for (int i = 0; i < 3; ++i) {
             const qint64 well = database->addWell(QStringLiteral("well é %1").arg(i))->key();
@@ -31,6 +33,9 @@ protected:
         for (const auto& analysis : project.analyses()) {
             lines << QString::number(analysis.key) + analysis.name + analysis.analysisType +
                          analysis.created.toString(Qt::ISODateWithMs);
+            if (const auto origin = project.origin(analysis.key)) {
+                lines << origin->file << origin->sha256 << origin->warnings;
+            }
             EXPECT_TRUE(project.curve(analysis.key).equals(ramp(analysis.pointCount)));
         }
         for (const auto& well : project.datasets()) {

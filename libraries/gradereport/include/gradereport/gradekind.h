@@ -13,6 +13,9 @@ enum class GradeKind { good, twin, flat, none, other, failed };
 
 inline constexpr int gradeKindCount = 6;
 
+/// The kind that a quality code stands for; never `failed`.
+[[nodiscard]] GradeKind kindOfQuality(int quality);
+
 /// The kind of a graded file, from its quality code; never `failed`.
 [[nodiscard]] GradeKind kindOf(const GradeRecord& record);
 

@@ -7,9 +7,9 @@
 
 namespace gradereport {
 
-/// One sentence that tells a chemist why a curve has its grade, with the numbers that
-/// decided: how many peaks stand and where, the top of a lone one against the height threshold, which
-/// candidates fell to coelution, and the nearest setting that would give another grade.
+/// One sentence that tells a chemist why a curve has its grade, with the numbers that decided: how many
+/// peaks stand and where, the top of a lone one against the height threshold, which candidates fell to
+/// coelution, and the nearest setting that would give another grade. UTF-8; in French with a decimal comma.
 [[nodiscard]] std::string gradeReason(const Grading& grading, const EngineSettings& settings,
                                       Language language = Language::english);
 

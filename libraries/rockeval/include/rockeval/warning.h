@@ -12,4 +12,9 @@ struct Warning {
     std::string text;
 };
 
+/// The warning with its line in front, where it has one: "line 4: ...".
+inline std::string warningText(const Warning& warning) {
+    return warning.line == 0 ? warning.text : "line " + std::to_string(warning.line) + ": " + warning.text;
+}
+
 } // namespace rockeval

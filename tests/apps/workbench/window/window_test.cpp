@@ -196,7 +196,7 @@ TEST_F(Window, all_menus_speak_french_when_asked_and_english_again) {
     };
     const QStringList english = titles();
     workbench->language().choose(LanguageSwitch::Language::French);
-    EXPECT_EQ(titles(), QStringList({"&Projet", "&Données", "&Modules", "&Affichage", "A&ide"}));
+    EXPECT_EQ(titles(), QStringList({"&Projet", "&Données", "&Modules", "&Contrôle", "&Affichage", "A&ide"}));
     workbench->language().choose(LanguageSwitch::Language::English);
     EXPECT_EQ(titles(), english);
 }

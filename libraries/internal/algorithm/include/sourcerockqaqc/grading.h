@@ -135,6 +135,35 @@ Grading<Scalar, Values> usefulPart(const std::shared_ptr<const core::Signal1D<Sc
     return result;
 }
 
+/// The stages behind `usefulPart`, as far as the sensitivity decides: detection, and the filter of early
+/// tops. Fills in what they find; `judge` does the rest.
+template <class Scalar, class Values>
+void detectPeaks(Grading<Scalar, Values>& part, const Scalar& sensitivity) {
+    using Noise = chromato::NoiseXNO<Scalar, Values>;
+    using PeakPosition = typename chromato::PeakFilter<Scalar, Values>::PeakPosition;
+
+    const std::uint64_t n = part.even->size();
+    const Noise noiseless(1, 1, 1, 0, 0); // expects no noise anywhere, so it rejects no peak
+    const chromato::Chromatograph<Scalar, Values, Noise> chromatograph(
+        n, noiseless, 0.1 * static_cast<double>(n), part.even->X(0), part.even->X(n - 1));
+    const chromato::PeaksDetectorXNO<Scalar, Values, Noise> detector(chromatograph, sensitivity);
+    part.candidates = detector.detect(part.even, nullptr);
+    part.smoothed = detector.smoothedSignal();
+
+    // Drops, among others, the forced candidate at the very start.
+    const Scalar earliest = part.start.x * 1.1;
+    const auto isEarly = [earliest](PeakPosition peak) { return earliest > peak->top()->x; };
+    const chromato::PeakFilterCustom<Scalar, Values, std::function<bool(PeakPosition)>> earlyFilter(isEarly);
+    part.late = earlyFilter.apply(part.candidates, nullptr);
+    part.early.clear();
+    const auto& candidates = part.candidates->peaks();
+    for (auto peak = candidates.begin(); peak != candidates.end(); ++peak) {
+        if (earlyFilter.isFiltered(peak)) {
+            part.early.push_back(*peak);
+        }
+    }
+}
+
 /// Runs the whole chain on `signal`: cut, even grid, mean level, detection, both filters, grading.
 ///
 /// `signal` is held by a shared pointer and has ascending, finite abscissae. Raises what the stages
@@ -142,30 +171,8 @@ Grading<Scalar, Values> usefulPart(const std::shared_ptr<const core::Signal1D<Sc
 template <class Scalar, class Values>
 Grading<Scalar, Values> grade(const std::shared_ptr<const core::Signal1D<Scalar, Values>>& signal,
                               const SourceRockQAQCSettings<Scalar, Values>& settings) {
-    using Noise = chromato::NoiseXNO<Scalar, Values>;
-    using PeakPosition = typename chromato::PeakFilter<Scalar, Values>::PeakPosition;
-
     auto result = usefulPart<Scalar, Values>(signal);
-    const std::uint64_t n = result.even->size();
-    const Noise noiseless(1, 1, 1, 0, 0); // expects no noise anywhere, so it rejects no peak
-    const chromato::Chromatograph<Scalar, Values, Noise> chromatograph(
-        n, noiseless, 0.1 * static_cast<double>(n), result.even->X(0), result.even->X(n - 1));
-    const chromato::PeaksDetectorXNO<Scalar, Values, Noise> detector(chromatograph, settings.sensitivity);
-    result.candidates = detector.detect(result.even, nullptr);
-    result.smoothed = detector.smoothedSignal();
-
-    // Drops, among others, the forced candidate at the very start.
-    const Scalar earliest = result.start.x * 1.1;
-    const auto isEarly = [earliest](PeakPosition peak) { return earliest > peak->top()->x; };
-    const chromato::PeakFilterCustom<Scalar, Values, std::function<bool(PeakPosition)>> earlyFilter(isEarly);
-    result.late = earlyFilter.apply(result.candidates, nullptr);
-    const auto& candidates = result.candidates->peaks();
-    for (auto peak = candidates.begin(); peak != candidates.end(); ++peak) {
-        if (earlyFilter.isFiltered(peak)) {
-            result.early.push_back(*peak);
-        }
-    }
-
+    detectPeaks<Scalar, Values>(result, settings.sensitivity);
     result.chromatogram = judge<Scalar, Values>(result.late, result.mean, settings);
     const chromato::PeakFilterCoelution<Scalar, Values> coelution(settings.coelution, nullptr);
     const auto& late = result.late->peaks();

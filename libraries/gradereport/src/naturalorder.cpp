@@ -1,9 +1,9 @@
-#include "naturalorder.h"
+#include "gradereport/naturalorder.h"
 
 #include <algorithm>
 #include <cstddef>
 
-namespace grade {
+namespace gradereport {
 
 namespace {
 
@@ -56,4 +56,4 @@ bool naturallyLess(std::string_view a, std::string_view b) {
     return order != 0 ? order < 0 : a < b;
 }
 
-} // namespace grade
+} // namespace gradereport

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "CheckFilter.h"
+#include "CheckGrades.h"
+
+#include <QObject>
+#include <QSet>
+
+class CheckActions;
+class VKListViewSignal;
+class VKRibbonModuleBar;
+
+/// What the workbench adds to one open quality check, beside what the module does itself: the reason of each
+/// grade above its curve, ways to
+/// select and filter by grade.
+class CheckSession : public QObject {
+    Q_OBJECT
+
+public:
+    /// For a bar that is complete and has no analysis yet. It owns the session, and the actions outlive it;
+    /// null, with an Error on the log, for a bar without the list and the sliders of a quality check.
+    static CheckSession* begin(VKRibbonModuleBar& bar, CheckActions& actions);
+    ~CheckSession() override;
+
+    CheckGrades& grades() { return m_grades; }
+    CheckFilter& filter() { return m_filter; }
+
+    /// Takes note of a table of results that was opened in this check: its cells follow the sliders.
+    void addResults(const QObject* table);
+    bool holdsResults(const QObject* table) const { return m_results.contains(table); }
+
+    /// Writes what the grades rest on beside an export; success and failure go to the log.
+    void writeOriginBeside(const QString& exported);
+
+    /// Writes the report; success and failure go to the log.
+    void writeReport(const QString& path);
+
+private:
+    CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const CheckDials& dials,
+                 CheckActions& actions);
+    void wireActions();
+    void followSettings();
+    void askWhereToReport();
+    void select(gradereport::GradeKind kind);
+    void setFilter(std::optional<gradereport::GradeKind> only);
+
+    VKListViewSignal& m_list;
+    CheckActions& m_actions;
+    CheckGrades m_grades;
+    CheckFilter m_filter;
+    QSet<const QObject*> m_results;
+};
