@@ -1,6 +1,7 @@
 #include "Headless.h"
 
 #include "CheckActions.h"
+#include "CheckSession.h"
 #include "ImportTour.h"
 #include "ModuleObserver.h"
 #include "PictureFolder.h"
@@ -65,6 +66,7 @@ void printMessages(const MessageLogModel& log) {
 void showFilter(Workbench& workbench, const PictureFolder& pictures) {
     const CheckActions& actions = workbench.qualityCheck().actions();
     actions.onlyAction(gradereport::GradeKind::flat)->trigger();
+    workbench.qualityCheck().list()->clearSelection();
     actions.nextAction()->trigger();
     PictureFolder::settle();
     pictures.write(QStringLiteral("filter.png"), workbench.window());
@@ -83,6 +85,9 @@ void gradeAll(Workbench& workbench, const PictureFolder& pictures) {
         pictures.write(QStringLiteral("table.png"), workbench.window());
     }
     workbench.qualityCheck().list()->selectAll();
+    if (CheckSession* const session = workbench.qualityCheck().session()) {
+        session->scan().finish();
+    }
     PictureFolder::settle();
     pictures.write(QStringLiteral("window.png"), workbench.window());
     showFilter(workbench, pictures);

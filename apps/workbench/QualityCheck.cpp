@@ -23,6 +23,11 @@ QualityCheck::QualityCheck(RibbonHost& ribbon, ModuleLauncher& launcher, Workspa
     : m_workspace(workspace), m_ribbon(ribbon), m_launcher(launcher), m_gate(new TrialGate(this)),
       m_actions(new CheckActions(this)) {
     connect(m_gate, &TrialGate::delivered, &m_workspace, &Workspace::refreshTables);
+    connect(&m_ribbon, &RibbonHost::removed, this, [this](const VKRibbonModuleBar* bar) {
+        if (bar == m_bar) {
+            delete m_session; // while the list and the sliders that it follows are there
+        }
+    });
     connect(&m_workspace, &Workspace::tableOpened, this, &QualityCheck::tableOpened);
     connect(&m_workspace, &Workspace::tableExported, this, &QualityCheck::tableExported);
 }

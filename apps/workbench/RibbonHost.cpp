@@ -22,6 +22,7 @@ void RibbonHost::addModuleBar(VKRibbonModuleBar* bar, bool current, bool closabl
 
 void RibbonHost::removeModuleBar(VKRibbonModuleBar* bar) {
     m_ribbon.removeBar(bar);
+    emit removed(bar);
 }
 
 VKRibbonModuleBar* RibbonHost::barAddedBy(const std::function<void()>& make) {

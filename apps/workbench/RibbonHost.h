@@ -23,6 +23,10 @@ public:
     /// and tells nobody else which bar is its own.
     VKRibbonModuleBar* barAddedBy(const std::function<void()>& make);
 
+signals:
+    /// A bar has left the ribbon; it may be about to be destroyed.
+    void removed(VKRibbonModuleBar* bar);
+
 private:
     VKRibbon& m_ribbon;
     VKRibbonModuleBar* m_added = nullptr;

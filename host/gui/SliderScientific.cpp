@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +16,7 @@ SliderScientific::SliderScientific(QWidget* parent, const QString& label, const 
     : QWidget(parent), m_scale(minimum, maximum),
       m_value(std::isnan(value) ? m_scale.minimum()
                                 : std::clamp(value, m_scale.minimum(), m_scale.maximum())),
-      m_slider(new QSlider(Qt::Horizontal)), m_box(new QDoubleSpinBox) {
+      m_slider(new QSlider(Qt::Horizontal)), m_column(new QVBoxLayout), m_box(new QDoubleSpinBox) {
     auto* caption = new QLabel(label);
     caption->setBuddy(m_slider);
     // Sliders above each other line up, as long as their labels keep within twenty letters.
@@ -41,7 +42,9 @@ SliderScientific::SliderScientific(QWidget* parent, const QString& label, const 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(caption);
-    row->addWidget(m_slider, 1);
+    m_column->setSpacing(0);
+    m_column->addWidget(m_slider);
+    row->addLayout(m_column, 1);
     row->addWidget(m_box);
     setToolTip(help);
     setWhatsThis(help);
@@ -54,6 +57,10 @@ SliderScientific::SliderScientific(QWidget* parent, const QString& label, const 
     connect(m_slider, &QSlider::valueChanged, this,
             [this](int position) { moveTo(m_scale.value(position)); });
     connect(m_box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &SliderScientific::moveTo);
+}
+
+void SliderScientific::setUnderlay(QWidget* widget) {
+    m_column->addWidget(widget);
 }
 
 void SliderScientific::moveTo(double value) {

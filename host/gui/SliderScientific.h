@@ -6,6 +6,7 @@
 
 class QDoubleSpinBox;
 class QSlider;
+class QVBoxLayout;
 
 // A labelled number within bounds: a slider to move it and a box to read it and type it exactly. Nothing is
 // emitted while it is built, and value() is to the last bit the double it was given, whatever the box
@@ -24,6 +25,10 @@ public:
     // The values it can be moved to.
     const SliderScale& scale() const { return m_scale; }
 
+    // Puts a widget under the slider, as wide as that is, and takes it over. For once.
+    void setUnderlay(QWidget* widget);
+    const QSlider& slider() const { return *m_slider; }
+
 signals:
     // Once for each new value that the user chose; a number that is being typed counts when it is complete.
     void valueChanged(double value);
@@ -37,5 +42,6 @@ private:
     SliderScale m_scale;
     double m_value;
     QSlider* m_slider;
+    QVBoxLayout* m_column;
     QDoubleSpinBox* m_box;
 };

@@ -234,7 +234,8 @@ TEST_F(QualityCheckRoads, the_export_for_learning_is_reached_by_name_and_shown) 
     EXPECT_EQ(lines[2], "]");
     EXPECT_TRUE(lines[3] == "y=[1;3;]" || lines[3] == "y=[3;1;]") << lines[3].toStdString();
     EXPECT_EQ(workspace().currentPage()->windowTitle(), "dataSR.txt");
-    EXPECT_EQ(messages(MessageLevel::Information).size(), 1);
+    ASSERT_EQ(messages(MessageLevel::Information).size(), 2);
+    EXPECT_TRUE(messages(MessageLevel::Information)[0].contains("dataSR.txt"));
 
     move(height(), lastPosition(height()));
     workbench->qualityCheck().exportForLearning();

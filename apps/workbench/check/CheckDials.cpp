@@ -35,13 +35,7 @@ std::optional<CheckDials> CheckDials::of(const QWidget& bar) {
 }
 
 gradereport::EngineSettings CheckDials::settings() const {
-    return {1.0 - m_sensitivity->value(), m_coelution->value(), m_height->value()};
-}
-
-std::vector<double> CheckDials::sensitivities() const {
-    std::vector<double> values = valuesOf(m_sensitivity->scale());
-    std::transform(values.begin(), values.end(), values.begin(), [](double shown) { return 1.0 - shown; });
-    return values;
+    return {sensitivityAt(m_sensitivity->value()), m_coelution->value(), m_height->value()};
 }
 
 std::vector<double> CheckDials::coelutions() const {

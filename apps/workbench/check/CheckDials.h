@@ -20,9 +20,9 @@ public:
 
     gradereport::EngineSettings settings() const;
 
-    /// The settings that the slider's positions stand for, in their order: of the sensitivity the
-    /// complement of what the slider shows, so these descend.
-    std::vector<double> sensitivities() const;
+    /// The setting that a value of the sensitivity's slider stands for: its complement.
+    static double sensitivityAt(double shown) { return 1.0 - shown; }
+    /// The settings that the positions of a slider stand for, ascending.
     std::vector<double> coelutions() const;
     std::vector<double> heights() const;
 

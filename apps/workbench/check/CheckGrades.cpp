@@ -18,6 +18,7 @@ CheckGrades::CheckGrades(const VKListViewSignal& list, const CheckDials& dials, 
             });
     connect(model, &QAbstractItemModel::rowsRemoved, this, &CheckGrades::removed);
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { m_analyses.clear(); });
+    connect(model, &QAbstractItemModel::modelReset, this, &CheckGrades::removed);
 }
 
 CheckGrades::~CheckGrades() = default;

@@ -1,5 +1,6 @@
 #include "CheckSession.h"
 
+#include "ChangeStrip.h"
 #include "CheckActions.h"
 #include "CheckOrigin.h"
 #include "CheckReasons.h"
@@ -19,6 +20,7 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <array>
 #include <exception>
 
 using TechPlot::TViewerNotes;
@@ -48,17 +50,17 @@ CheckSession* CheckSession::begin(VKRibbonModuleBar& bar, CheckActions& actions)
 CheckSession::CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const CheckDials& dials,
                            CheckActions& actions)
     : QObject(&bar), m_list(list), m_actions(actions), m_grades(list, dials, this),
-      m_filter(list, m_grades, *actions.filterMenu(), this) {
+      m_filter(list, m_grades, *actions.filterMenu(), this), m_scan(m_grades, this) {
     TViewerNotes::returnMe().setSource(
         [this](const QString& viewer) { return CheckReasons::reason(m_grades, viewer); });
     for (const SliderScientific* const slider : {dials.sensitivity(), dials.coelution(), dials.height()}) {
         connect(slider, &SliderScientific::valueChanged, this, &CheckSession::followSettings);
     }
     bar.actionGroup()->addActionButton(actions.reportAction());
+    addStrips();
     wireActions();
 }
 
-// The list and the sliders may be gone by now.
 CheckSession::~CheckSession() {
     TViewerNotes::returnMe().setSource({});
     m_actions.markFilter(std::nullopt);
@@ -110,7 +112,19 @@ void CheckSession::askWhereToReport() {
     dialog->open();
 }
 
+void CheckSession::addStrips() {
+    const CheckDials& dials = m_grades.dials();
+    const std::array<SliderScientific*, ChangeScan::dialCount> sliders{dials.sensitivity(), dials.coelution(),
+                                                                       dials.height()};
+    for (std::size_t dial = 0; dial < sliders.size(); ++dial) {
+        sliders[dial]->setUnderlay(new ChangeStrip(m_scan, static_cast<ChangeScan::Dial>(dial),
+                                                   sliders[dial]->slider(),
+                                                   sliders[dial]->scale().decimals()));
+    }
+}
+
 void CheckSession::followSettings() {
+    m_scan.beginAnew();
     TViewerNotes::returnMe().refresh();
     if (m_filter.only()) {
         m_filter.apply();

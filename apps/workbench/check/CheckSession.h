@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ChangeScan.h"
 #include "CheckFilter.h"
 #include "CheckGrades.h"
 
@@ -12,18 +13,20 @@ class VKRibbonModuleBar;
 
 /// What the workbench adds to one open quality check, beside what the module does itself: the reason of each
 /// grade above its curve, ways to
-/// select and filter by grade.
+/// select and filter by grade, and under each slider where grades change.
 class CheckSession : public QObject {
     Q_OBJECT
 
 public:
-    /// For a bar that is complete and has no analysis yet. It owns the session, and the actions outlive it;
-    /// null, with an Error on the log, for a bar without the list and the sliders of a quality check.
+    /// For a bar that is complete and has no analysis yet. To be deleted before the bar is, at the
+    /// latest when that leaves the ribbon; the actions outlive it. Null, with an Error on the log, for a bar
+    /// without the list and the sliders of a quality check.
     static CheckSession* begin(VKRibbonModuleBar& bar, CheckActions& actions);
     ~CheckSession() override;
 
     CheckGrades& grades() { return m_grades; }
     CheckFilter& filter() { return m_filter; }
+    ChangeScan& scan() { return m_scan; }
 
     /// Takes note of a table of results that was opened in this check: its cells follow the sliders.
     void addResults(const QObject* table);
@@ -39,6 +42,7 @@ private:
     CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const CheckDials& dials,
                  CheckActions& actions);
     void wireActions();
+    void addStrips();
     void followSettings();
     void askWhereToReport();
     void select(gradereport::GradeKind kind);
@@ -48,5 +52,6 @@ private:
     CheckActions& m_actions;
     CheckGrades m_grades;
     CheckFilter m_filter;
+    ChangeScan m_scan;
     QSet<const QObject*> m_results;
 };

@@ -57,16 +57,26 @@ std::optional<int> CheckedAnalysis::quality(const gradereport::EngineSettings& s
 }
 
 const gradereport::Candidates* CheckedAnalysis::candidates(double sensitivity) {
-    learn({sensitivity});
-    const auto found = m_candidates.find(sensitivity);
-    return found == m_candidates.end() ? nullptr : &found->second;
+    const auto learnt = m_learnt.find(sensitivity);
+    if (learnt != m_learnt.end()) {
+        return &learnt->second;
+    }
+    if (m_present.count(sensitivity) == 0) {
+        m_present.clear();
+        detect({sensitivity}, m_present);
+    }
+    return m_present.empty() ? nullptr : &m_present.begin()->second;
 }
 
 void CheckedAnalysis::learn(const std::vector<double>& sensitivities) {
+    detect(sensitivities, m_learnt);
+}
+
+void CheckedAnalysis::detect(const std::vector<double>& sensitivities, Learnt& into) {
     std::optional<gradereport::Grading> part;
     try {
         for (const double sensitivity : sensitivities) {
-            if (m_candidates.count(sensitivity) != 0) {
+            if (into.count(sensitivity) != 0) {
                 continue;
             }
             if (!part) {
@@ -77,7 +87,7 @@ void CheckedAnalysis::learn(const std::vector<double>& sensitivities) {
                 part = algo::sr_qaqc::usefulPart<double, Values>(raw);
             }
             algo::sr_qaqc::detectPeaks<double, Values>(*part, sensitivity);
-            m_candidates.emplace(sensitivity, gradereport::Candidates(*part, m_leastCoelution));
+            into.emplace(sensitivity, gradereport::Candidates(*part, m_leastCoelution));
         }
     } catch (const std::exception&) {
         m_gone = true; // the engine refuses it; whoever dropped it was told then

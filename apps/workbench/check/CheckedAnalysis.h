@@ -45,10 +45,10 @@ public:
     /// The quality code; nothing if the curve can't be read.
     std::optional<int> quality(const gradereport::EngineSettings& settings);
 
-    /// What the detection at this sensitivity leaves; null if the curve can't be read. Kept, so that it is
-    /// found once.
+    /// What the detection at this sensitivity leaves; null if the curve can't be read. Valid until another
+    /// sensitivity is asked for; found once as long as it isn't.
     const gradereport::Candidates* candidates(double sensitivity);
-    /// Detects at all of these that have not been asked for yet.
+    /// Detects at all of these that have not been learnt yet, and keeps what is found.
     void learn(const std::vector<double>& sensitivities);
 
 private:
@@ -59,5 +59,10 @@ private:
     std::unique_ptr<TAnalysisData> m_curve;
     std::optional<AnalysisOrigin> m_origin;
     bool m_gone = false;
-    std::map<double, gradereport::Candidates> m_candidates;
+    using Learnt = std::map<double, gradereport::Candidates>;
+
+    void detect(const std::vector<double>& sensitivities, Learnt& into);
+
+    Learnt m_learnt;
+    Learnt m_present; // of one sensitivity, so that a slider that is moved for hours fills no memory
 };
