@@ -17,6 +17,8 @@ build_packages=(cmake ninja-build g++ ccache rapidjson-dev libcli11-dev libssl-d
 # shellcheck disable=SC2034
 desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite libqt5sql5-psql qttools5-dev libqwt-qt5-dev libzip-dev fonts-dejavu-core)
 # shellcheck disable=SC2034
+deb_packages=(dpkg-dev file gzip)
+# shellcheck disable=SC2034
 test_packages=(libgtest-dev libxlsxwriter-dev postgresql parallel)
 
 say() { printf '==> %s\n' "$*"; }
