@@ -101,6 +101,10 @@ usable() {
         libzip-dev) cmake_runs 'find_package(LibZip REQUIRED)' ;;
         libqwt-qt5-dev) cmake_runs 'find_package(Qwt 6.1 REQUIRED)' ;;
         fonts-dejavu-core) font DejaVuSans.ttf ;;
+        dpkg-dev) command -v dpkg-shlibdeps ;;
+        appstream) command -v appstreamcli ;;
+        desktop-file-utils) command -v desktop-file-validate ;;
+        libxml2-utils) command -v xmllint ;;
         *) command -v "$1" ;;
     esac >/dev/null 2>&1
 }
