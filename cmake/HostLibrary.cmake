@@ -10,8 +10,10 @@ function(tavrel_add_library name)
     add_library(Tavrel::${name} ALIAS ${target})
     set_target_properties(${target} PROPERTIES
         OUTPUT_NAME "Ovx.Tavrel.${name}"
+        INSTALL_RPATH $ORIGIN
         AUTOMOC ON
         AUTORCC ON)
+    install(TARGETS ${target} LIBRARY DESTINATION ${VORN_PRIVATE_LIBDIR} COMPONENT workbench)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
     target_link_libraries(${target} PUBLIC ${ARG_LIBRARIES} PRIVATE vorn_warnings)
     if(NOT VORN_SANITIZERS)

@@ -18,6 +18,11 @@ if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
+# The libraries of the desktop are found beside the programs, wherever the tree is installed or moved to, and
+# no other program finds them.
+set(VORN_PRIVATE_LIBDIR ${CMAKE_INSTALL_LIBDIR}/vorn)
+file(RELATIVE_PATH VORN_LIBRARIES_FROM_PROGRAMS /${CMAKE_INSTALL_BINDIR} /${VORN_PRIVATE_LIBDIR})
+
 find_program(VORN_CCACHE ccache)
 if(VORN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${VORN_CCACHE}")

@@ -17,6 +17,8 @@ build_packages=(cmake ninja-build g++ ccache rapidjson-dev libcli11-dev libssl-d
 # shellcheck disable=SC2034
 desktop_packages=(qtbase5-dev libqt5svg5-dev libqt5sql5-sqlite libqt5sql5-psql qttranslations5-l10n qttools5-dev libqwt-qt5-dev libzip-dev fonts-dejavu-core)
 # shellcheck disable=SC2034
+deb_packages=(dpkg-dev file gzip)
+# shellcheck disable=SC2034
 test_packages=(libgtest-dev libxlsxwriter-dev openssl parallel postgresql)
 
 say() { printf '==> %s\n' "$*"; }
@@ -100,6 +102,10 @@ usable() {
         libzip-dev) cmake_runs 'find_package(LibZip REQUIRED)' ;;
         libqwt-qt5-dev) cmake_runs 'find_package(Qwt 6.1 REQUIRED)' ;;
         fonts-dejavu-core) font DejaVuSans.ttf ;;
+        dpkg-dev) command -v dpkg-shlibdeps ;;
+        appstream) command -v appstreamcli ;;
+        desktop-file-utils) command -v desktop-file-validate ;;
+        libxml2-utils) command -v xmllint ;;
         *) command -v "$1" ;;
     esac >/dev/null 2>&1
 }

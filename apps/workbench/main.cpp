@@ -10,6 +10,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QSettings>
 
 namespace {
@@ -90,6 +91,9 @@ int main(int argc, char** argv) {
     QCoreApplication::setOrganizationName("vorn");
     QCoreApplication::setApplicationName("workbench");
     QCoreApplication::setApplicationVersion(VORN_VERSION);
+    // The entry in the desktop's menu that an installation adds; windows have its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("vorn-workbench"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("vorn-workbench")));
     QApplication::setStyle(new TavrelStyle);
     if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 10)); // no desktop chooses one there
