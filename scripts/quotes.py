@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Whether the code that pages show is the code of the tree.
 
-    check-quotes PAGE...
+    quotes.py PAGE...
 
 A block of code follows a line that names its file, from the root of the project:
 
