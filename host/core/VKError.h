@@ -7,7 +7,7 @@
 #include <functional>
 
 /// The host's exception: a failure told to the user in up to three texts, each a sentence in restricted
-/// rich text (<b>, <i>, <br>): what happened, where, and what to do next. Any of them may be empty.
+/// rich text (`<b>`, `<i>`, `<br>`): what happened, where, and what to do next. Any of them may be empty.
 class VKError : public std::exception {
 public:
     using Handler = std::function<void(const QString& text)>;

@@ -4,8 +4,8 @@
 
 class VKRibbonBar;
 
-// What the ribbon puts around a bar: as high as the bar needs, and scrolled sideways when the window is
-// narrower than the bar, so that nothing is cut.
+/// What the ribbon puts around a bar: as high as the bar needs, and scrolled sideways when the window is
+/// narrower than the bar, so that nothing is cut.
 class RibbonPage : public QScrollArea {
     Q_OBJECT
 
@@ -13,9 +13,9 @@ public:
     explicit RibbonPage(VKRibbonBar* bar);
 
     VKRibbonBar* bar() const { return m_bar; }
-    // Takes the bar out, without a parent.
+    /// Takes the bar out, without a parent.
     VKRibbonBar* takeBar();
-    // A page in the back asks for no room.
+    /// A page in the back asks for no room.
     void setInFront(bool inFront);
 
     QSize sizeHint() const override;

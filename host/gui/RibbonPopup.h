@@ -5,16 +5,16 @@
 
 class QScrollArea;
 
-// A frame laid over the workspace of a window, right below the bar that it belongs to. It keeps inside the
-// window, at any size of it, and scrolls what doesn't fit. Clicks elsewhere leave it open.
+/// A frame laid over the workspace of a window, right below the bar that it belongs to. It keeps inside the
+/// window, at any size of it, and scrolls what doesn't fit. Clicks elsewhere leave it open.
 class RibbonPopup : public QFrame {
     Q_OBJECT
 
 public:
     explicit RibbonPopup(QWidget* window);
 
-    // Takes the content over until giveBack. The frame's left edge is the anchor's, its top the bottom of the
-    // bar.
+    /// Takes the content over until giveBack. The frame's left edge is the anchor's, its top the bottom of
+    /// the bar.
     void open(QWidget* content, const QWidget* anchor, const QWidget* bar);
     void giveBack();
 

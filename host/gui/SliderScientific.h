@@ -8,12 +8,12 @@ class QDoubleSpinBox;
 class QSlider;
 class QVBoxLayout;
 
-// A labelled number within bounds: a slider to move it and a box to read it and type it exactly. Nothing is
-// emitted while it is built, and value() is to the last bit the double it was given, whatever the box
-// rounds it to, until the user moves it; from then on it is what the box shows. A value out of bounds is
-// brought to the nearer one, one that isn't a number to the minimum.
-//
-// The wheel moves it only while it has the focus, so that scrolling past changes nothing.
+/// A labelled number within bounds: a slider to move it and a box to read it and type it exactly. Nothing is
+/// emitted while it is built, and value() is to the last bit the double it was given, whatever the box
+/// rounds it to, until the user moves it; from then on it is what the box shows. A value out of bounds is
+/// brought to the nearer one, one that isn't a number to the minimum.
+///
+/// The wheel moves it only while it has the focus, so that scrolling past changes nothing.
 class SliderScientific : public QWidget {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ public:
     const QSlider& slider() const { return *m_slider; }
 
 signals:
-    // Once for each new value that the user chose; a number that is being typed counts when it is complete.
+    /// Once for each new value that the user chose; a number that is being typed counts when it is complete.
     void valueChanged(double value);
 
 protected:

@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-// A line of plain text in a tool bar or status bar that gives way to what else is there: shown whole or
-// shortened, as there is room, and whole in its tool tip.
+/// A line of plain text in a tool bar or status bar that gives way to what else is there: shown whole or
+/// shortened, as there is room, and whole in its tool tip.
 class TBarCaption : public QWidget {
     Q_OBJECT
 

@@ -2,7 +2,7 @@
 
 #include <QToolButton>
 
-// Asks for files: the way for who has no file manager beside the window, or no mouse.
+/// Asks for files: the way for who has no file manager beside the window, or no mouse.
 class TFileButton : public QToolButton {
     Q_OBJECT
 
@@ -10,7 +10,7 @@ public:
     explicit TFileButton(QWidget* parent = nullptr);
 
 signals:
-    // At least one path, in the order of the dialog.
+    /// At least one path, in the order of the dialog.
     void chosen(const QStringList& paths);
 
 protected:

@@ -4,7 +4,7 @@
 
 class QPainter;
 
-// How the single parts of the application's look are drawn, each from a style option and its palette alone.
+/// How the single parts of the application's look are drawn, each from a style option and its palette alone.
 namespace TavrelDrawing {
 
 constexpr int sliderHandle = 16;
@@ -21,8 +21,8 @@ void slider(const QStyleOptionSlider& option, const QRect& handle, QPainter& pai
 void scrollBar(const QStyleOptionSlider& option, const QRect& handle, QPainter& painter);
 void spinBox(const QStyleOptionSpinBox& option, const QRect& up, const QRect& down, QPainter& painter);
 
-// The item with text that can be read: on a background of the item's own, black or white, whichever differs
-// more from it.
+/// The item with text that can be read: on a background of the item's own, black or white, whichever differs
+/// more from it.
 QStyleOptionViewItem readable(const QStyleOptionViewItem& option);
 
 } // namespace TavrelDrawing

@@ -3,8 +3,8 @@
 #include <QProxyStyle>
 #include <QStyleOption>
 
-// The look of the application on top of Fusion: flat and quiet, spaced on a grid of 8 pixels, one accent
-// colour (see TavrelColors). Light or dark as the desktop's palette is, unless one of the two is asked for.
+/// The look of the application on top of Fusion: flat and quiet, spaced on a grid of 8 pixels, one accent
+/// colour (see TavrelColors). Light or dark as the desktop's palette is, unless one of the two is asked for.
 class TavrelStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -13,8 +13,8 @@ public:
 
     explicit TavrelStyle(Scheme scheme = Scheme::Desktop);
 
-    // To be called before the application object is made: drawing at the screen's full resolution, at any
-    // scale factor.
+    /// To be called before the application object is made: drawing at the screen's full resolution, at any
+    /// scale factor.
     static void prepareApplication();
 
     using QProxyStyle::polish;
@@ -32,8 +32,8 @@ public:
                          const QWidget* widget) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget) const override;
-    // The sign for what has no room in a tool bar is drawn as all icons are. Qt would make it anew from
-    // pictures for each tool bar, and its cache of pictures remembers the key of each for good.
+    /// The sign for what has no room in a tool bar is drawn as all icons are. Qt would make it anew from
+    /// pictures for each tool bar, and its cache of pictures remembers the key of each for good.
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
                                 const QStyleOption* option) const override;

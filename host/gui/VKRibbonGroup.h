@@ -7,7 +7,7 @@ class QBoxLayout;
 class QIcon;
 class QToolButton;
 
-// A titled group of a ribbon bar: buttons and other widgets in one row, as narrow as they allow.
+/// A titled group of a ribbon bar: buttons and other widgets in one row, as narrow as they allow.
 class VKRibbonGroup : public QGroupBox {
     Q_OBJECT
 
@@ -21,14 +21,14 @@ public:
 
     QBoxLayout* layout() const;
     void addWidget(QWidget* widget);
-    // A new button at the position, counted over all widgets of the group; any other position means behind
-    // the last. The group owns it.
+    /// A new button at the position, counted over all widgets of the group; any other position means behind
+    /// the last. The group owns it.
     QToolButton* insertButton(const QString& text, const QIcon& icon, int position, buttonStyle style);
-    // A button that shows and triggers the action, behind the last widget.
+    /// A button that shows and triggers the action, behind the last widget.
     QToolButton* addActionButton(QAction* action, buttonStyle style = LargeButton);
 
 protected:
-    // For groups with a layout of their own: addWidget puts into the row.
+    /// For groups with a layout of their own: addWidget puts into the row.
     VKRibbonGroup(QBoxLayout* whole, QBoxLayout* row, QWidget* parent);
 
 private:

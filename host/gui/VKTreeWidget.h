@@ -2,31 +2,31 @@
 
 #include <QTreeWidget>
 
-// A tree that takes drops and says, while it is empty, what may be dropped on it.
-//
-// Files: a drag that brings local files is accepted when somebody listens to dataDroppped; dropping it
-// reports their paths, in order. So do a button at the end of the header, which asks for files, and pasting
-// files that were copied in a file manager. Anything else is for the listeners of the three ...Called
-// signals, which get each event after the tree has judged it as above, and may accept or ignore it. A drop
-// arrives accepted, since only an accepted drag can be dropped.
-//
-// Keyboard: Tab reaches the button behind the rows; Left and Right walk along the columns of an item without
-// children; Enter or Space stands for a click on the current cell.
+/// A tree that takes drops and says, while it is empty, what may be dropped on it.
+///
+/// Files: a drag that brings local files is accepted when somebody listens to dataDroppped; dropping it
+/// reports their paths, in order. So do a button at the end of the header, which asks for files, and pasting
+/// files that were copied in a file manager. Anything else is for the listeners of the three ...Called
+/// signals, which get each event after the tree has judged it as above, and may accept or ignore it. A drop
+/// arrives accepted, since only an accepted drag can be dropped.
+///
+/// Keyboard: Tab reaches the button behind the rows; Left and Right walk along the columns of an item without
+/// children; Enter or Space stands for a click on the current cell.
 class VKTreeWidget : public QTreeWidget {
     Q_OBJECT
 
 public:
     explicit VKTreeWidget(QWidget* parent = nullptr, const QString& dropText = {});
 
-    // Plain text, shown while the tree has no item; it may hold line breaks.
+    /// Plain text, shown while the tree has no item; it may hold line breaks.
     void setDropText(const QString& text);
     QString dropText() const { return m_dropText; }
 
-    // Plain text, shown while the tree has items and all of them are hidden.
+    /// Plain text, shown while the tree has items and all of them are hidden.
     void setAllHiddenText(const QString& text);
 
-    // Puts a widget at the end of the header, in place of the button that asks for files. The tree takes it
-    // over, and what it had there before goes.
+    /// Puts a widget at the end of the header, in place of the button that asks for files. The tree takes it
+    /// over, and what it had there before goes.
     void setHeaderWidget(QWidget* widget);
 
     QSize sizeHint() const override;

@@ -11,6 +11,7 @@
 /// a line of plain text in UTF-8 behind its level ("error: ..."). The stream outlives the logger.
 class MessageCollector : public MessageLoggerInterface {
 public:
+    /// A message as it came, in restricted rich text.
     struct Entry {
         MessageLevel level;
         QString message;

@@ -20,6 +20,7 @@ public:
     /// Takes one message. Nothing of the message is trusted.
     virtual void log(MessageLevel level, const QString& message) = 0;
 
+    /// One message of this level; the default logger takes it if none is given.
     static void Information(const QString& message, MessageLoggerInterface* logger = nullptr);
     static void Warning(const QString& message, MessageLoggerInterface* logger = nullptr);
     static void Error(const QString& message, MessageLoggerInterface* logger = nullptr);

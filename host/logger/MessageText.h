@@ -4,11 +4,11 @@
 
 /// A message made harmless for showing.
 ///
-/// Of the markup only <b>, <i> (closed by their own end tags, also within each other, though not without end)
-/// and <br> survive, without attributes and in either case, and the references &amp; &lt; &gt; &quot;.
-/// Everything else is text and is shown as it stands, so that nothing is fetched, linked or styled. A line
-/// end becomes <br>, another control character U+FFFD. A message of more than `maxLength` characters ends in
-/// an ellipsis there.
+/// Of the markup only `<b>`, `<i>` (closed by their own end tags, also within each other, though not without
+/// end) and `<br>` survive, without attributes and in either case, and the references `&amp;` `&lt;` `&gt;`
+/// `&quot;`. Everything else is text and is shown as it stands, so that nothing is fetched, linked or styled.
+/// A line end becomes `<br>`, another control character U+FFFD. A message of more than `maxLength` characters
+/// ends in an ellipsis there.
 class MessageText {
 public:
     static constexpr int maxLength = 8000;

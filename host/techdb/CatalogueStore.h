@@ -16,6 +16,7 @@ class TVornCompound;
 /// writes is a transaction. Failures are thrown as VKError.
 class CatalogueStore {
 public:
+    /// A row as it is found: its key, and the name it bears.
     struct Entry {
         qint64 key;
         QString name;

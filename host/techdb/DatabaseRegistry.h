@@ -10,7 +10,9 @@ class TDatabase;
 /// interface thread.
 namespace DatabaseRegistry {
 
+/// Not owned; found from now on.
 void add(TDatabase* database);
+/// Before it is closed; nothing for one that is not open.
 void remove(TDatabase* database);
 
 /// The database that was opened last among those of a project; null if none is open.

@@ -19,6 +19,7 @@ namespace ObjectReferences {
 
 constexpr int maximumCount = 1'000'000;
 
+/// In their order.
 QByteArray encoded(const QVector<ObjectReference>& references);
 
 /// Empty if the bytes are anything else than that.

@@ -44,7 +44,7 @@ public:
     const QVector<TNode*>& plotters() const { return m_plotters; }
 
     /// The parts of the axes that are shown, and what the user's commands do to them. Each command that
-    /// changes the shown time is told by `timeShown`.
+    /// changes the shown time is told by `timeShown`. Arguments are as `TViewRange` has them.
     const TViewRange& range() const;
     void showPart(const QRectF& part);
     void zoomTime(double factor, double centre);

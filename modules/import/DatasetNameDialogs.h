@@ -6,6 +6,7 @@
 /// `VornCtrl`.
 namespace DatasetNameDialogs {
 
+/// What becomes of a dataset whose name is taken.
 enum class Choice { Overwrite, Rename, Cancel };
 
 /// Closing the question is a cancel.

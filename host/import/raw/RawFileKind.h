@@ -6,6 +6,7 @@
 /// What raw files are to be known by.
 namespace RawFileKind {
 
+/// A curve (.S00), a table of results (.R00), or neither.
 enum class Kind { Other, Signal, Results };
 
 /// By the extension, .S00 or .R00 in either case.

@@ -11,6 +11,7 @@ struct ColumnHeader;
 /// Finds the property that a column holds by name and unit, in whatever spelling and language.
 class ColumnMatcher {
 public:
+    /// What a header was found to mean; `none` and `none` if nothing.
     struct Match {
         static constexpr int none = -1;
         int property = none; ///< place among the properties

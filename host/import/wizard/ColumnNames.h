@@ -12,6 +12,7 @@ struct TKnownProperty;
 /// number behind it. The identifying column is named first, then known properties, then the others.
 class ColumnNames {
 public:
+    /// A column that got a number behind its name, and the one whose name it would have had.
     struct Renamed {
         int place = 0;  ///< of the column, in the mapping
         int holder = 0; ///< of the one that bears the name

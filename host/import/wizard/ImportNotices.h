@@ -10,6 +10,7 @@ class ImportNotices {
     Q_DECLARE_TR_FUNCTIONS(ImportNotices)
 
 public:
+    /// One sentence and how grave it is.
     struct Notice {
         /// A remark, something that may be wrong, or what keeps the table from being imported.
         enum class Level { Remark, Warning, Obstacle };

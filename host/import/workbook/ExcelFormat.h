@@ -6,6 +6,7 @@
 /// stores both alike.
 namespace ExcelFormat {
 
+/// What the number of a cell stands for.
 enum class Kind {
     Number,
     Date,

@@ -21,7 +21,7 @@ struct MergedRange {
 
 /// A cell is empty (an invalid QVariant), a number (double) or a text (QString, never null, may be empty if
 /// the file says so). A formula counts as its stored result; truth values are the texts TRUE and FALSE,
-/// errors their texts (#DIV/0!), dates the text of ISO 8601 as `ExcelDate` gives it: 2024-05-03,
+/// errors their texts (`#DIV/0!`), dates the text of ISO 8601 as `ExcelDate` gives it: 2024-05-03,
 /// 2024-05-03T14:30:00, 14:30:00.
 struct Sheet {
     QString name;
@@ -37,6 +37,7 @@ struct Sheet {
     QVariant cell(int row, int column) const;
 };
 
+/// All tables of one file, and what a person should know about how they were read.
 struct Book {
     /// In the order of the file, worksheets alone; at least one.
     std::vector<Sheet> sheets;

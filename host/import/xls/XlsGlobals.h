@@ -14,6 +14,7 @@ class XlsBudget;
 /// as XlsRefusal.
 class XlsGlobals {
 public:
+    /// A worksheet of the list, and where its records begin.
     struct SheetPlace {
         QString name;
         qint64 position = 0; ///< in the workbook's stream; not checked

@@ -12,6 +12,7 @@ class XlsxXml;
 
 /// The part of a workbook that lists its sheets.
 struct XlsxContents {
+    /// A sheet of the list; `relation` names the part that holds it.
     struct Entry {
         QString name;
         bool hidden = false;

@@ -10,6 +10,7 @@ class ZipArchive;
 /// them. What lies outside the workbook is left out.
 class XlsxRelations {
 public:
+    /// One part that another names.
     struct Relation {
         QString type; ///< the last word of it, the same in both dialects: worksheet, sharedStrings
         QString part; ///< the name in the archive

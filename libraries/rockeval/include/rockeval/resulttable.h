@@ -18,6 +18,7 @@ struct ResultEntry {
     std::size_t line = 0;
 };
 
+/// The lines below one name in brackets. Lines count from 1.
 struct ResultSection {
     std::string name; ///< as written between the brackets; empty for lines before the first section
     std::vector<ResultEntry> entries;

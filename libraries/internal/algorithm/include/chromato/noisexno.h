@@ -6,7 +6,8 @@
 
 namespace algo::chromato {
 
-/// The noise expected at an amplitude: a closed formula of five constants that looks at no data.
+/// The noise expected at an amplitude: a closed formula of five constants that looks at no data:
+/// `scale * (c - offset)^exponent`, where `c` is the amplitude, kept between `xMin` and `xMax`.
 ///
 /// A negative base with a fractional exponent gives NaN, which goes on.
 template <class Scalar, class Values>

@@ -12,7 +12,8 @@ namespace algo::chromato {
 
 /// The shape tests of the detector: what the smoothed samples look like around an index.
 ///
-/// Second derivatives are computed once for all samples. A test of an index near either end is false.
+/// Second derivatives, `(y[j + 2] - y[j + 1] - (y[j - 1] - y[j - 2])) / (2 dx)^2`, are computed once for all
+/// samples. A test of an index near either end is false.
 template <class Scalar, class Values>
 class SmoothedShape {
 public:

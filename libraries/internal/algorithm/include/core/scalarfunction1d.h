@@ -34,6 +34,7 @@ public:
                    ", xmin=" + toString(m_xmin) + ", xmax=" + toString(m_xmax));
     }
 
+    /// Both bounds belong to it; nobody checks that they ascend.
     void setDomain(Scalar xmin, Scalar xmax) {
         m_xmin = xmin;
         m_xmax = xmax;

@@ -60,6 +60,7 @@ public:
     /// Takes the domain from the first and the last point; raises without points.
     void setDomainFromPoints();
 
+    /// The sample or point of an index, counted from 0; raise for one that is not below `size()`.
     Scalar X(std::uint64_t i) const;
     Scalar Y(std::uint64_t i) const;
     PointType at(std::uint64_t i) const;
@@ -78,7 +79,10 @@ public:
     /// Raises when nothing is left; an `x2` well below `x1` is the vector's length error.
     std::shared_ptr<Signal1D> extract(Scalar x1, Scalar x2) const;
 
+    /// On the line through the points at `index` and behind it; the last ordinate where none is behind.
     Scalar interpolateLinear(Scalar x, std::uint64_t index) const;
+    /// On the parabola through three points from `index` on, near the end through the last three; of two
+    /// points on their line.
     Scalar interpolateQuadratic(Scalar x, std::uint64_t index) const;
 
     Iterator begin() const { return Iterator(Iterator::everyPoint, at(0), false, this->shared_from_this()); }

@@ -26,7 +26,8 @@ private:
     Scalar m_intercept;
 };
 
-/// The density of the normal law, scaled to an area.
+/// The density of the normal law, scaled to an area:
+/// `area / (sqrt(2 pi) sigma) * exp(-(x - mean)^2 / (2 sigma^2))`.
 ///
 /// Raises when `sigma` is not above 0. The domain stays open until it is set.
 template <class Scalar>

@@ -11,7 +11,8 @@
 
 namespace algo::filter {
 
-/// A signal weighted by a scalar function of finite domain, as a signal with the input's abscissae.
+/// A signal weighted by a scalar function of finite domain, as a signal with the input's abscissae:
+/// `out[i]` is the sum of `weight[j] * in[i + first + j]`, added up with ascending `j`.
 ///
 /// The kernel's axis counts samples, not units of the abscissa. Its weights are taken at unit steps
 /// from `xmin`, as many as the width truncates to, so its positive end is never sampled; they are

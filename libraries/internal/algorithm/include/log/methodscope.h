@@ -18,6 +18,7 @@ class MethodScope {
 public:
     MethodScope(Node* log, const char* signature) : m_guard(open(log, signature)) {}
 
+    /// A remark under this call's node: the pieces, one behind the other.
     template <class Kind = NodeInfo, class... Pieces>
     void remark(const Pieces&... pieces) const {
         if (m_guard.node == nullptr) {
@@ -28,6 +29,7 @@ public:
         m_guard.node->template add<Kind>(stream, m_guard.node->processor);
     }
 
+    /// Keeps a copy of an object under this call's node, for a listener that takes such.
     template <class Object>
     void keep(const std::string& text, Object object) const {
         NodeMethodCall* const node = m_guard.node;
