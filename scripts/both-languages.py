@@ -13,7 +13,7 @@ ROOMS = ["host", "apps", "modules", "libraries/gradereport"]
 
 # The same word in both languages.
 SAME = {
-    "&Modules", "Modules", "Module", "Messages", "Message", "Information", "Actions", "Analyses", "Points", "Type",
+    "&Modules", "Guide", "Modules", "Module", "Messages", "Message", "Information", "Actions", "Analyses", "Points", "Type",
     "Dimensions", "Version", "%1 × %2", "%1: %2", "Total", "Conversion", "Maximum", "Minimum", "Image", "Page",
     "Zoom", "SHA-256", "FID", "%1 s, FID %2", "catalogue", "Date", "Documents", "points", "point", "minimum", "maximum", "Port", "Formation",
 }

@@ -123,23 +123,29 @@ void FileIntake::take(const QStringList& paths) {
                  tr("It wasn't taken: %1.", "Il n'a pas été pris : %1.").arg(file.reason));
         }
     }
-    carryOut(choices);
+    try {
+        carryOut(choices);
+    } catch (...) { // the application tells it; what was done before is told here
+        m_parts.outcomes.finish();
+        throw;
+    }
     m_parts.outcomes.finish();
 }
 
 /// The project first: what is imported goes into it.
 void FileIntake::carryOut(const QVector<DropChoice>& choices) {
     const QStringList toOpen = pathsFor(Target::Open, choices);
-    const bool isOpen = toOpen.isEmpty() || open(toOpen.first());
+    const bool isOpen =
+        toOpen.isEmpty() ? m_parts.projects.projectDatabase() != nullptr : open(toOpen.first());
     for (const Target target : {Target::SourceRock, Target::Gas, Target::Custom}) {
         const QStringList paths = pathsFor(target, choices);
         if (isOpen && !paths.isEmpty()) {
             m_parts.imports.importFiles(moduleOf(target), paths);
         } else {
             note(paths, State::Skipped,
-                 tr("The project it was to go into could not be opened; open another one and drop it again.",
-                    "Le projet auquel il était destiné n'a pas pu être ouvert ; ouvrez-en un autre et "
-                    "déposez-le à nouveau."));
+                 tr("There was no project to put it into; open or make one and drop it again.",
+                    "Il n'y avait pas de projet où le mettre ; ouvrez-en ou créez-en un et déposez-le à "
+                    "nouveau."));
         }
     }
     note(pathsFor(Target::LeaveOut, choices), State::Skipped,

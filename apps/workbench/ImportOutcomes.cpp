@@ -5,6 +5,8 @@
 #include "NaturalOrder.h"
 #include "VornCtrl.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <utility>
 
@@ -30,7 +32,7 @@ ImportOutcomes::ImportOutcomes(const MessageLogModel& log) : m_log(log) {
 
 void ImportOutcomes::begin(const QStringList& paths) {
     m_isOpen = true;
-    m_wanted = QSet<QString>(paths.begin(), paths.end());
+    m_wanted = paths;
     m_outcomes.clear();
 }
 
@@ -39,11 +41,29 @@ void ImportOutcomes::add(const ImportOutcome& outcome) {
 }
 
 void ImportOutcomes::finish() {
+    addMissing();
     const QVector<ImportOutcome> outcomes = std::exchange(m_outcomes, {});
     const bool several = std::exchange(m_isOpen, false);
     m_wanted.clear();
+    m_isPassing = false;
+    m_current.clear();
     if (!outcomes.isEmpty()) {
         emit gathered(outcomes, several);
+    }
+}
+
+void ImportOutcomes::addMissing() {
+    QSet<QString> told;
+    for (const ImportOutcome& outcome : qAsConst(m_outcomes)) {
+        told.insert(outcome.path);
+    }
+    for (const QString& path : qAsConst(m_wanted)) {
+        if (!told.contains(path)) {
+            add({path, State::Failed,
+                 tr("Its import was cut short; the messages say why. Drop it again.",
+                    "Son import a été interrompu ; les messages disent pourquoi. Déposez-le à nouveau."),
+                 m_module});
+        }
     }
 }
 
@@ -81,9 +101,10 @@ void ImportOutcomes::passEnded(const Codes& codes) {
     if (!std::exchange(m_isPassing, false)) {
         return;
     }
+    const QSet<QString> wanted(m_wanted.begin(), m_wanted.end());
     for (const QString& path : sortedPaths(codes)) {
         // What was done before this pass is told only to who dropped it again.
-        if (m_wanted.contains(path) || m_before.value(path) != VornCtrl::ImportDone) {
+        if (wanted.contains(path) || m_before.value(path) != VornCtrl::ImportDone) {
             m_outcomes.append(outcomeOf(path, codes.value(path)));
         }
     }

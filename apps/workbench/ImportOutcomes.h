@@ -4,7 +4,6 @@
 #include "ImportOutcome.h"
 
 #include <QObject>
-#include <QSet>
 #include <QStringList>
 #include <QVector>
 
@@ -23,7 +22,8 @@ public:
     /// From here to `finish` all passes are one import, of these files; otherwise each pass is one.
     void begin(const QStringList& paths);
     void add(const ImportOutcome& outcome);
-    /// Announces what has come together.
+    /// Announces what has come together. A file that was never heard of, as something raised ended its pass,
+    /// is told as failed.
     void finish();
 
     void passBegan(const QString& module, const Codes& codes) override;
@@ -44,6 +44,7 @@ private:
     };
 
     void hear(int first, int last);
+    void addMissing();
     ImportOutcome outcomeOf(const QString& path, int code) const;
     QString refusalOf(const QString& path) const;
 
@@ -54,6 +55,6 @@ private:
     QString m_current;
     bool m_isPassing = false;
     bool m_isOpen = false;
-    QSet<QString> m_wanted;
+    QStringList m_wanted; // each once
     QVector<ImportOutcome> m_outcomes;
 };

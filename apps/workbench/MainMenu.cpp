@@ -165,6 +165,7 @@ void MainMenu::translate() {
     m_moduleGroup->setTitle(tr("Modules", "Modules"));
     m_helpGroup->setTitle(tr("Help", "Aide"));
     m_files->setText(tr("Import files…", "Importer des fichiers…"));
+    m_files->setIconText(tr("Import…", "Importer…")); // short on buttons
     m_files->setToolTip(tr("Bring files of any kind in; each goes to the module that reads it",
                            "Importer des fichiers de tout type ; chacun va au module qui le lit"));
     m_folder->setText(tr("Import a folder…", "Importer un dossier…"));
@@ -184,6 +185,7 @@ void MainMenu::translate() {
     m_find->setText(tr("Find", "Rechercher"));
     m_quit->setText(tr("Quit", "Quitter"));
     m_guide->setText(tr("User guide", "Guide d'utilisation"));
+    m_guide->setIconText(tr("Guide", "Guide"));
     m_helpHere->setText(tr("Help on what has the focus", "Aide sur l'élément actif"));
     m_about->setText(tr("About", "À propos"));
 }

@@ -93,6 +93,7 @@ void ProjectCommands::translate() {
     m_example->setToolTip(
         tr("Open the project with the example curves", "Ouvrir le projet des courbes d'exemple"));
     m_backup->setText(tr("Backup copy…", "Copie de sauvegarde…"));
+    m_backup->setIconText(tr("Backup…", "Sauvegarde…"));
     m_backup->setToolTip(tr("Save a copy of the project", "Enregistrer une copie du projet"));
     m_serverCopy->setText(tr("Copy to a server…", "Copier vers un serveur…"));
     m_serverCopy->setToolTip(tr("Copy the project into an empty database that several desks share",

@@ -1,4 +1,6 @@
 #include "DropDialog.h"
+#include "ImportOutcomes.h"
+#include "MessageLogModel.h"
 #include "ModalAnswers.h"
 #include "MouseDrop.h"
 #include "TDatabase.h"
@@ -144,4 +146,31 @@ TEST_F(Intake, a_wizard_that_is_closed_stores_nothing_and_the_list_says_so) {
     ModalAnswers answers({"Cancel"});
     workbench->imports().importFiles(Kind::Custom, {example("tables/custom.xlsx", "custom.xlsx")});
     EXPECT_TRUE(outcomes()["custom.xlsx"].startsWith("skipped: Nothing was stored"));
+}
+
+TEST_F(Intake, without_a_project_nothing_is_imported_and_the_list_says_what_to_do) {
+    workbench->projects().close();
+    ModalAnswers answers;
+    drop({example("good-clean-01.S00", "curve.S00")});
+    EXPECT_TRUE(outcomes()["curve.S00"].contains("open or make one"));
+}
+
+TEST(ImportOutcomes, account_for_every_file_even_if_its_pass_never_ends) {
+    const MessageLogModel log;
+    ImportOutcomes outcomes(log);
+    QMap<QString, QString> told;
+    QObject::connect(&outcomes, &ImportOutcomes::gathered, [&told](const QVector<ImportOutcome>& all) {
+        for (const ImportOutcome& outcome : all) {
+            told.insert(outcome.path, nameOf(outcome.state));
+        }
+    });
+    outcomes.begin({"a", "b", "c"});
+    outcomes.add({"a", ImportOutcome::State::Skipped, "left out", {}});
+    outcomes.passBegan("Module", {{"b", 0}, {"c", 0}});
+    outcomes.fileBegan("b");
+    outcomes.finish();
+    EXPECT_EQ(told, (QMap<QString, QString>{{"a", "skipped"}, {"b", "failed"}, {"c", "failed"}}));
+    told.clear();
+    outcomes.passEnded({{"b", 1}});
+    EXPECT_TRUE(told.isEmpty()) << "of a pass that is over";
 }

@@ -153,10 +153,10 @@ QString ownWords(const QString& text, const QStringList& cells) {
 
 /// The same in both languages: words they share, and the fixed words of the modules and of the toolkit.
 const QStringList shared{
-    "A Sample",     "Sample",   "Actions",     "Analyses",     "Date",        "English", "Français",
-    "Information",  "Message",  "Messages",    "Module",       "Modules",     "Points",  "Quality",
-    "Color legend", "Gas data", "Import data", "Source rock",  "Source Rock", "Status",  "good",
-    "double",       "flat",     "Scroll Left", "Scroll Right", "postgresql:"};
+    "A Sample", "Guide",        "Sample",   "Actions",     "Analyses",     "Date",        "English",
+    "Français", "Information",  "Message",  "Messages",    "Module",       "Modules",     "Points",
+    "Quality",  "Color legend", "Gas data", "Import data", "Source rock",  "Source Rock", "Status",
+    "good",     "double",       "flat",     "Scroll Left", "Scroll Right", "postgresql:"};
 
 } // namespace
 
