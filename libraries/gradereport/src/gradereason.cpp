@@ -103,9 +103,9 @@ std::string Sentence::standing() const {
         break;
     }
     const std::string list = enumerated(peaks, place);
-    const std::string text = m_language == Language::french
-                                 ? "Il reste " + counted(peaks.size()) + " pics, à " + list
-                                 : counted(peaks.size()) + " peaks stand, at " + list;
+    std::string text = m_language == Language::french
+                           ? "Il reste " + counted(peaks.size()) + " pics, à " + list
+                           : counted(peaks.size()) + " peaks stand, at " + list;
     switch (peaks.size()) {
     case 2:
         return text;
