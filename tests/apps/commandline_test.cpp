@@ -57,6 +57,7 @@ TEST(CommandLine, wrong_usage_ends_with_2_and_a_text_on_the_error_stream) {
         {"--height", "2x", "a"},
         {"--height", "", "a"},
         {"--format", "xml", "a"},
+        {"--language", "de", "a"},
         {"--report"},
         {"--skip-done", "done", "a"},
         {"--skip-done", "done", "--format", "json", "--report", "r.html", "a"},

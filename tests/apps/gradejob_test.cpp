@@ -113,6 +113,19 @@ TEST(GradeJob, the_machine_learning_file_is_what_the_manager_exports) {
     EXPECT_NE(exported.str().find("]\n]\ny=[2;]\n"), std::string::npos);
 }
 
+TEST(GradeJob, french_reaches_reasons_warnings_and_failures_and_leaves_the_words_of_programs) {
+    const TemporaryFolder folder;
+    folder.write("1.S00", "");
+    grade::Options options =
+        optionsFor({folder.path("1.S00"), example("good-missing-seconds-01.S00")}, grade::Format::json);
+    options.language = gradereport::Language::french;
+    const std::string out = run(options).out;
+    EXPECT_NE(out.find("ligne 1 : le fichier est vide"), std::string::npos) << out;
+    EXPECT_NE(out.find("secondes manquantes"), std::string::npos);
+    EXPECT_NE(out.find("Il reste un pic"), std::string::npos);
+    EXPECT_NE(out.find("\"grade\":\"good\""), std::string::npos);
+}
+
 TEST(GradeJob, settings_reach_the_engine_and_stand_in_the_output) {
     grade::Options options = optionsFor({example("good-clean-01.S00")});
     options.settings.heightCriteria = 4.0;

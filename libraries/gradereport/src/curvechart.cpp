@@ -148,14 +148,16 @@ std::string CurveChart::axes() const {
 
 std::string CurveChart::leftOut() const {
     std::string text;
-    if (std::isfinite(m_record.start) && m_record.start > m_x.low())
+    if (std::isfinite(m_record.start) && m_record.start > m_x.low()) {
         text += shade(m_x.low(), m_record.start,
                       say("Left out: before the start", "Laissé de côté : avant le départ"));
+    }
     ValueRange graded;
     graded.include(m_record.smoothed.x);
-    if (!graded.isEmpty() && graded.high() < m_x.high())
+    if (!graded.isEmpty() && graded.high() < m_x.high()) {
         text += shade(graded.high(), m_x.high(),
                       say("Left out: after the graded range", "Laissé de côté : après la plage évaluée"));
+    }
     return text;
 }
 
@@ -177,9 +179,10 @@ std::string CurveChart::threshold() const {
         return {};
     const std::string name = trimmedNumber(m_record.settings.height, 3) + say(" × mean = ", " × moyenne = ") +
                              trimmedNumber(m_threshold, 1);
-    if (!m_thresholdFits)
+    if (!m_thresholdFits) {
         return "<g class=\"units end\">" +
                label(right, 12, name + say(", outside the drawing", ", hors du dessin")) + "</g>\n";
+    }
     const double y = m_y.pixel(m_threshold);
     return path("threshold", "M" + point(left, y) + "H" + pathNumber(right)) + "<g class=\"note end\">" +
            label(right - 4, y - 5, name) + "</g>\n";

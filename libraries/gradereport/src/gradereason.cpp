@@ -132,7 +132,8 @@ std::string Reason::standing() const {
         return m_say.counted(peaks.size()) + m_say(" peaks stand, at ", " pics subsistent, à ") +
                m_say.enumerated(peaks, placed) +
                (peaks.size() == 2 ? std::string()
-                                  : m_say(", for which there is no grade", ", nombre pour lequel il n'y a pas d'évaluation"));
+                                  : m_say(", for which there is no grade",
+                                          ", nombre pour lequel il n'y a pas d'évaluation"));
     }
 }
 

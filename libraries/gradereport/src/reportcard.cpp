@@ -83,11 +83,12 @@ std::string warningList(const std::vector<std::string>& warnings, Language langu
                        "</p><ul class=\"warnings\">";
     for (std::size_t i = 0; i < std::min(warnings.size(), mostWarnings); ++i)
         list += "<li>" + escaped(warnings[i]) + "</li>";
-    if (warnings.size() > mostWarnings)
+    if (warnings.size() > mostWarnings) {
         list += "<li>" + said(language, "and ", "et ") +
                 counted(warnings.size() - mostWarnings, said(language, "more warning", "autre avertissement"),
                         said(language, "more warnings", "autres avertissements")) +
                 "</li>";
+    }
     return list + "</ul>\n";
 }
 
