@@ -3,6 +3,10 @@
 #include "ImportedName.h"
 #include "TcmFile.h"
 
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+
 #include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -104,6 +108,31 @@ TEST_F(ImportDatabase, tells_of_a_damaged_file_and_takes_it_again) {
     ASSERT_TRUE(QDir(path("import/analyses")).removeRecursively());
     EXPECT_TRUE(stored("X.S00"));
     EXPECT_EQ(names(*project), QStringList("X.S00"));
+}
+
+TEST_F(ImportDatabase, an_index_made_elsewhere_does_not_lead_out_of_its_folder) {
+    const qint64 key = imported("X.S00")->key();
+    imports.reset();
+    {
+        QSqlDatabase index = QSqlDatabase::addDatabase("QSQLITE", "elsewhere");
+        index.setDatabaseName(path("import/index.vornimport"));
+        ASSERT_TRUE(index.open());
+        QSqlQuery query("UPDATE analyses SET name = '../../x'", index);
+        ASSERT_EQ(query.numRowsAffected(), 1) << query.lastError().text().toStdString();
+    }
+    QSqlDatabase::removeDatabase("elsewhere");
+    imports = VKDatabaseImport::open(path("import"));
+    EXPECT_THROW(imports->curve(key), VKError);
+    EXPECT_FALSE(imports->objectPush(project.get(), imports->analysisByKey(key)));
+    EXPECT_TRUE(says(told(), "<b>../../x</b> can't be that of an imported curve"));
+    EXPECT_EQ(names(*project), QStringList());
+}
+
+TEST_F(ImportDatabase, names_and_curves_come_from_files_alone) {
+    const VKObject2Analysis* const analysis = imported("X.S00");
+    EXPECT_THROW(imports->renameAnalysis(analysis->key(), "Y.S00"), VKError);
+    EXPECT_THROW(imports->addAnalysis("Y.S00", "type", {{0.0F, 1.0F}, {1.0F, 3.0F}}), VKError);
+    EXPECT_EQ(names(*imports), QStringList("X.S00"));
 }
 
 TEST_F(ImportDatabase, that_cannot_be_written_says_so) {
