@@ -25,7 +25,7 @@ QJsonObject inputOf(CheckedAnalysis& analysis, const gradereport::EngineSettings
 
 } // namespace
 
-QByteArray CheckOrigin::json(CheckGrades& grades) {
+QByteArray CheckOrigin::json(const CheckGrades& grades) {
     const gradereport::EngineSettings settings = grades.dials().settings();
     QJsonArray inputs;
     const QVector<CheckedAnalysis*> analyses = grades.analyses();
@@ -40,7 +40,7 @@ QByteArray CheckOrigin::json(CheckGrades& grades) {
     return QJsonDocument(origin).toJson();
 }
 
-void CheckOrigin::writeBeside(const QString& exported, CheckGrades& grades) {
+void CheckOrigin::writeBeside(const QString& exported, const CheckGrades& grades) {
     const QFileInfo beside(exported);
     const QString path = beside.dir().filePath(beside.completeBaseName() + QStringLiteral(".origin.json"));
     const QString shown = QDir::toNativeSeparators(path).toHtmlEscaped();

@@ -12,9 +12,9 @@ class CheckOrigin {
     Q_DECLARE_TR_FUNCTIONS(CheckOrigin)
 
 public:
-    static QByteArray json(CheckGrades& grades);
+    static QByteArray json(const CheckGrades& grades);
 
     /// Writes it beside the exported file ("table.csv", "table.origin.json") and tells on the log where.
     /// Throws VKError.
-    static void writeBeside(const QString& exported, CheckGrades& grades);
+    static void writeBeside(const QString& exported, const CheckGrades& grades);
 };

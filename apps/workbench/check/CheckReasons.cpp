@@ -12,7 +12,7 @@ gradereport::Language language() {
 
 } // namespace
 
-QString CheckReasons::reason(CheckGrades& grades, const QString& name) {
+QString CheckReasons::reason(const CheckGrades& grades, const QString& name) {
     CheckedAnalysis* const analysis = grades.named(name);
     const CheckedAnalysis::Signal signal = analysis == nullptr ? nullptr : analysis->signal();
     if (signal == nullptr) {

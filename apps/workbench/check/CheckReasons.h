@@ -11,5 +11,5 @@ class CheckReasons {
 public:
     /// The batch grader's sentence, in the language of the application; empty for an analysis that the
     /// check doesn't list, or whose curve can't be read any more.
-    static QString reason(CheckGrades& grades, const QString& name);
+    static QString reason(const CheckGrades& grades, const QString& name);
 };

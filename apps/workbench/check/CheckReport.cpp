@@ -60,7 +60,7 @@ gradereport::GradeRecord recordOf(const Entry& entry, const CheckedAnalysis::Sig
 
 } // namespace
 
-CheckReport::CheckReport(CheckGrades& grades) {
+CheckReport::CheckReport(const CheckGrades& grades) {
     const gradereport::EngineSettings settings = grades.dials().settings();
     gradereport::HtmlReport report({settings.sensitivity, settings.coelution, settings.heightCriteria},
                                    VORN_VERSION);

@@ -11,7 +11,7 @@ class CheckReport {
     Q_DECLARE_TR_FUNCTIONS(CheckReport)
 
 public:
-    explicit CheckReport(CheckGrades& grades);
+    explicit CheckReport(const CheckGrades& grades);
 
     const QByteArray& html() const { return m_html; }
 
