@@ -39,7 +39,8 @@ std::shared_ptr<const Chromatogram> threePeaks() {
 std::vector<double> topsThatStay(double share) {
     const auto peaks = threePeaks();
     std::vector<double> tops;
-    for (const Peak& peak : Filter(*peaks, share).apply(peaks, nullptr)->peaks()) {
+    const auto left = Filter(*peaks, share).apply(peaks, nullptr);
+    for (const Peak& peak : left->peaks()) {
         tops.push_back(peak.top()->y);
     }
     return tops;
