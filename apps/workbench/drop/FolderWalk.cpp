@@ -3,9 +3,9 @@
 #include "NaturalOrder.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -24,6 +24,9 @@ QFileInfoList entriesOf(const QString& folder) {
 FolderWalk::FolderWalk(const QStringList& dropped, int limit) : m_limit(limit) {
     for (const QString& path : dropped) {
         take(QFileInfo(QDir::cleanPath(QFileInfo(path).absoluteFilePath())), true);
+        while (!m_waiting.isEmpty()) {
+            take(m_waiting.takeLast(), false);
+        }
     }
 }
 
@@ -49,20 +52,18 @@ void FolderWalk::take(const QFileInfo& entry, bool wasDropped) {
                         "c'est un lien vers un dossier, qui n'a pas été suivi ; déposez ce dossier "
                         "lui-même"));
     } else {
-        walk(path);
+        open(path);
     }
 }
 
-void FolderWalk::walk(const QString& folder) {
+void FolderWalk::open(const QString& folder) {
     if (!QFileInfo(folder).isReadable() || !QFileInfo(folder).isExecutable()) {
         refuse(folder, tr("the folder can't be read; check your right to read it",
                           "le dossier ne peut pas être lu ; vérifiez votre droit de le lire"));
         return;
     }
     const QFileInfoList entries = entriesOf(folder);
-    for (const QFileInfo& entry : entries) {
-        take(entry, false);
-    }
+    std::copy(entries.crbegin(), entries.crend(), std::back_inserter(m_waiting));
     if (entries.isEmpty()) {
         refuse(folder, tr("the folder is empty; drop one that holds files",
                           "le dossier est vide ; déposez-en un qui contient des fichiers"));

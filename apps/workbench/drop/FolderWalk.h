@@ -3,11 +3,10 @@
 #include "FileKind.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSet>
 #include <QStringList>
 #include <QVector>
-
-class QFileInfo;
 
 /// The files behind what was dropped: folders are replaced by what lies in them and below, each file comes
 /// once. Links to folders are not followed, so that a walk ends; hidden files are left out without a word, as
@@ -29,11 +28,12 @@ public:
 
 private:
     void take(const QFileInfo& entry, bool wasDropped);
-    void walk(const QString& folder);
+    void open(const QString& folder);
     void refuse(const QString& path, const QString& reason);
 
     int m_limit;
     bool m_isFull = false;
+    QFileInfoList m_waiting; // found in folders and not taken yet, the next one last
     QSet<QString> m_known;
     QStringList m_files;
     QVector<SortedFile> m_refused;

@@ -6,7 +6,7 @@
 namespace TableGuess {
 
 /// Larger files aren't read only to be told apart.
-constexpr qint64 largestFile = 1024 * 1024;
+constexpr qint64 largestFile = 1 << 20;
 
 /// A kind of table; `OtherTable` also for what is too large, damaged or protected: its import tells why.
 FileKind of(const QString& path);
