@@ -7,9 +7,9 @@
 
 namespace TechPlot {
 
-/// What stands as a sentence under a viewer's title. A module makes its viewers and knows nothing of notes; whoever
-/// has something to say about what they show says it here, by the viewer's name. A viewer asks when it is
-/// on screen, so one that nobody looks at costs nothing.
+/// What stands as a sentence under a viewer's title. A module makes its viewers and knows nothing of notes;
+/// whoever has something to say about what they show says it here, by the viewer's name. A viewer asks when
+/// it is on screen, so one that nobody looks at costs nothing.
 class TViewerNotes : public QObject {
     Q_OBJECT
 

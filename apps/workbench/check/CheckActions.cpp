@@ -63,7 +63,7 @@ void CheckActions::buildKinds() {
         connect(select, &QAction::triggered, this, [this, kind] { emit selectRequested(kind); });
         m_select[place(kind)] = select;
 
-        QAction* const only = action(icons[place(kind)], Qt::SHIFT + keys[place(kind)]);
+        QAction* const only = action(icons[place(kind)], static_cast<int>(Qt::SHIFT) + keys[place(kind)]);
         only->setCheckable(true);
         choice->addAction(only);
         connect(only, &QAction::triggered, this, [this, kind] { emit filterRequested(kind); });

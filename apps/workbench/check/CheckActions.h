@@ -53,7 +53,7 @@ signals:
 
 private:
     static std::size_t place(gradereport::GradeKind kind) { return static_cast<std::size_t>(kind); }
-    QAction* action(const char* icon, const QKeySequence& keys);
+    QAction* action(const char* icon, const QKeySequence& shortcut);
     void buildKinds();
 
     std::unique_ptr<QMenu> m_menu;
