@@ -95,7 +95,8 @@ void ProjectMgr::create(const QString& path, const std::function<void(TechDB::TD
     {
         const auto project = TechDB::TDatabase::create(folder.filePath(QStringLiteral("new.vornproj")));
         fill(*project);
-        project->backupTo(path, [](qint64, qint64) {}); // as a whole, and not onto a project that another window has open
+        project->backupTo(
+            path, [](qint64, qint64) {}); // as a whole, and not onto a project that another window has open
     }
     open(path);
 }

@@ -50,7 +50,7 @@ void QualityCheck::tableExported(const VKDataModel* table, const QString& path) 
         MessageLoggerInterface::Warning(
             tr("The settings behind these grades are not known any more, since their quality check was "
                "closed: open it again and export its results.",
-               "Les réglages de ces grades ne sont plus connus, car leur contrôle qualité a été fermé : "
+               "Les réglages de ces évaluations ne sont plus connus, car leur contrôle qualité a été fermé : "
                "rouvrez-le et exportez ses résultats."));
     }
 }

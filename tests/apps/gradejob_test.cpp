@@ -122,7 +122,7 @@ TEST(GradeJob, french_reaches_reasons_warnings_and_failures_and_leaves_the_words
     const std::string out = run(options).out;
     EXPECT_NE(out.find("ligne 1 : le fichier est vide"), std::string::npos) << out;
     EXPECT_NE(out.find("secondes manquantes"), std::string::npos);
-    EXPECT_NE(out.find("Il reste un pic"), std::string::npos);
+    EXPECT_NE(out.find("Un seul pic subsiste"), std::string::npos);
     EXPECT_NE(out.find("\"grade\":\"good\""), std::string::npos);
 }
 

@@ -27,7 +27,7 @@ ChangeStrip::ChangeStrip(const ChangeScan& scan, ChangeScan::Dial dial, const QS
 
 void ChangeStrip::describe() {
     setAccessibleName(tr("Where analyses change grade along this slider",
-                         "Où des analyses changent de grade le long de ce curseur"));
+                         "Où des analyses changent d'évaluation le long de ce curseur"));
 }
 
 /// As far as the middle of the slider's handle gets.
@@ -79,12 +79,12 @@ QString ChangeStrip::columnText(int column) const {
         return tr("%1: being counted…", "%1 : comptage en cours…").arg(place);
     }
     if (count == 0) {
-        return tr("%1: no analysis changes grade here", "%1 : aucune analyse ne change de grade ici")
+        return tr("%1: no analysis changes grade here", "%1 : aucune analyse ne change d'évaluation ici")
             .arg(place);
     }
     return count == 1
-               ? tr("%1: 1 analysis changes grade here", "%1 : 1 analyse change de grade ici").arg(place)
-               : tr("%1: %2 analyses change grade here", "%1 : %2 analyses changent de grade ici")
+               ? tr("%1: 1 analysis changes grade here", "%1 : 1 analyse change d'évaluation ici").arg(place)
+               : tr("%1: %2 analyses change grade here", "%1 : %2 analyses changent d'évaluation ici")
                      .arg(place, locale.toString(count));
 }
 
