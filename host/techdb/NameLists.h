@@ -18,10 +18,15 @@ public:
     ListedNames samples(qint64 dataset, const NameRange& range) const;
 
 private:
-    /// `statement` ends where its conditions begin, of which `values` are the first; `holdsPart` is the one
-    /// on the part of a name.
-    ListedNames read(QString statement, SqlConnection::Values values, const QString& holdsPart,
-                     const NameRange& range) const;
+    struct List {
+        QString table;
+        /// What is shown beside the name: the instant and the count.
+        QString columns;
+        /// Begins the conditions; its values come first.
+        QString of;
+        QString holdsPart;
+    };
+    ListedNames read(const List& list, SqlConnection::Values values, const NameRange& range) const;
 
     SqlConnection& m_connection;
 };
