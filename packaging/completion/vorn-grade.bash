@@ -9,13 +9,17 @@ _vorn_grade() {
             mapfile -t COMPREPLY < <(compgen -W 'table csv json' -- "$word")
             return
             ;;
+        --language)
+            mapfile -t COMPREPLY < <(compgen -W 'en fr' -- "$word")
+            return
+            ;;
         --sensitivity | --coelution | --height)
             return
             ;;
     esac
     compopt -o filenames
     if [[ $word == -* ]]; then
-        mapfile -t COMPREPLY < <(compgen -W '--sensitivity --coelution --height --format --report --ml --skip-done
+        mapfile -t COMPREPLY < <(compgen -W '--sensitivity --coelution --height --format --language --report --ml --skip-done
             --null --help --version' -- "$word")
     else
         mapfile -t COMPREPLY < <(compgen -f -- "$word")

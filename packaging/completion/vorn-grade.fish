@@ -2,6 +2,7 @@ complete -c vorn-grade -l sensitivity -x -d 'share of the average peak width use
 complete -c vorn-grade -l coelution -x -d 'higher removes more coeluted peaks'
 complete -c vorn-grade -l height -x -d 'factor on the mean level that a good peak reaches'
 complete -c vorn-grade -l format -x -a 'table csv json' -d 'form of the output'
+complete -c vorn-grade -l language -x -a 'en fr' -d 'language of the sentences'
 complete -c vorn-grade -l report -r -F -d 'write an HTML report to this file'
 complete -c vorn-grade -l ml -r -F -d 'write curves and grades for machine learning to this file'
 complete -c vorn-grade -l skip-done -r -F -d 'leave out files that this earlier output holds'
