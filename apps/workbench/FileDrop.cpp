@@ -4,7 +4,6 @@
 
 #include <QDropEvent>
 #include <QMimeData>
-#include <QTimer>
 #include <QUrl>
 #include <QWidget>
 
@@ -42,7 +41,7 @@ bool FileDrop::eventFilter(QObject*, QEvent* event) {
     m_cover->setVisible(!paths.isEmpty() && event->type() != QEvent::Drop);
     if (event->type() == QEvent::Drop && !paths.isEmpty()) {
         drag.setDropAction(Qt::CopyAction); // else a file manager may take the files away
-        QTimer::singleShot(0, this, [this, paths] { emit dropped(paths); });
+        QMetaObject::invokeMethod(this, "dropped", Qt::QueuedConnection, Q_ARG(QStringList, paths));
     }
     return true;
 }

@@ -41,7 +41,7 @@ void HelpPage::turnTo(int helpId) {
 /// Once the page has its size, on which the places of the headings depend.
 void HelpPage::showSoon(int number) {
     m_wanted = number;
-    QTimer::singleShot(0, this, &HelpPage::showWanted);
+    QTimer::singleShot(0, this, SLOT(showWanted()));
 }
 
 void HelpPage::showWanted() {
@@ -75,7 +75,7 @@ void HelpPage::translate() {
 
 void HelpPage::showEvent(QShowEvent* event) {
     QTextBrowser::showEvent(event);
-    QTimer::singleShot(0, this, &HelpPage::showWanted);
+    QTimer::singleShot(0, this, SLOT(showWanted()));
 }
 
 void HelpPage::follow(const QUrl& link) {

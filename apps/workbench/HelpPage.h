@@ -22,10 +22,12 @@ protected:
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
+private slots:
+    void showWanted();
+
 private:
     void translate();
     void showSoon(int number);
-    void showWanted();
     void follow(const QUrl& link);
     /// Headings are counted from the start of the guide, which is 0; both languages have the same ones.
     int headingInSight() const;

@@ -54,7 +54,7 @@ QString filePath(const QString& folder) {
 
 QString LearningExport::run(VKRibbonModuleBar& bar, Workspace& workspace) {
     const QString folder = projectFolder();
-    const QString path = filePath(folder);
+    QString path = filePath(folder);
     QFile::remove(path); // what is there afterwards is new
     {
         const WorkingFolder working(folder);
@@ -73,7 +73,7 @@ QString LearningExport::run(VKRibbonModuleBar& bar, Workspace& workspace) {
     }
     MessageLoggerInterface::Information(
         translated("The curves and their grades were exported to <b>%1</b>.",
-                   "Les courbes et leurs grades ont été exportés vers <b>%1</b>.")
+                   "Les courbes et leurs évaluations ont été exportées vers <b>%1</b>.")
             .arg(shown));
     workspace.addPage(new TextPage(QFileInfo(path).fileName(), QString::fromUtf8(file.readAll())));
     return path;

@@ -124,10 +124,11 @@ QByteArray encode(const Viewers& viewers, const QFileInfo& file) {
 } // namespace
 
 void TPlotExport::write(const QVector<const VKViewer2D*>& viewers, const QString& fileName) {
-    if (viewers.isEmpty())
+    if (viewers.isEmpty()) {
         throw VKError(Texts::tr(
             "There is no curve to save: select one in the module's list first.",
             "Il n'y a pas de courbe à enregistrer : sélectionnez-en d'abord une dans la liste du module."));
+    }
     const QByteArray content = encode(viewers, QFileInfo(fileName));
     QSaveFile file(fileName);
     if (!content.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
