@@ -1,26 +1,14 @@
 #include "FileDrop.h"
 
 #include "DropCover.h"
+#include "TLocalFiles.h"
 
 #include <QDropEvent>
-#include <QMimeData>
-#include <QUrl>
 #include <QWidget>
 
 FileDrop::FileDrop(QWidget& window) : m_cover(new DropCover(window)) {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
-}
-
-QStringList FileDrop::filesOf(const QMimeData* data) {
-    QStringList paths;
-    const QList<QUrl> urls = data == nullptr ? QList<QUrl>() : data->urls();
-    for (const QUrl& url : urls) {
-        if (url.isLocalFile()) {
-            paths.append(url.toLocalFile());
-        }
-    }
-    return paths;
 }
 
 bool FileDrop::eventFilter(QObject*, QEvent* event) {
@@ -36,7 +24,7 @@ bool FileDrop::eventFilter(QObject*, QEvent* event) {
         return false;
     }
     auto& drag = static_cast<QDropEvent&>(*event);
-    const QStringList paths = filesOf(drag.mimeData());
+    const QStringList paths = TLocalFiles::of(drag.mimeData());
     drag.setAccepted(!paths.isEmpty());
     m_cover->setVisible(!paths.isEmpty() && event->type() != QEvent::Drop);
     if (event->type() == QEvent::Drop && !paths.isEmpty()) {

@@ -4,7 +4,6 @@
 #include <QStringList>
 
 class DropCover;
-class QMimeData;
 class QWidget;
 
 /// Lets files and folders be dropped anywhere on a window where no part of it takes the drop itself.
@@ -22,7 +21,5 @@ signals:
     void dropped(const QStringList& paths);
 
 private:
-    static QStringList filesOf(const QMimeData* data);
-
     DropCover* m_cover;
 };

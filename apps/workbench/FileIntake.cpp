@@ -10,15 +10,14 @@
 #include "ProjectCommands.h"
 #include "ProjectMgr.h"
 #include "TDatabase.h"
+#include "TLocalFiles.h"
 #include "TProgressBarMgr.h"
 #include "VKDataModel.h"
 #include "Workspace.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QScopedValueRollback>
-#include <QSettings>
 
 #include <algorithm>
 
@@ -26,12 +25,6 @@ using Target = DropChoice::Target;
 using State = ImportOutcome::State;
 
 namespace {
-
-const QString folderKey = QStringLiteral("gui/filesFolder"); // as of the modules' own dialogs
-
-QString lastFolder() {
-    return QSettings().value(folderKey, QDir::homePath()).toString();
-}
 
 QVector<SortedFile> sorted(const QStringList& dropped) {
     const FolderWalk walk(dropped);
@@ -81,18 +74,18 @@ FileIntake::FileIntake(const Parts& parts) : m_parts(parts) {
 
 void FileIntake::askForFiles() {
     const QStringList paths = QFileDialog::getOpenFileNames(
-        &m_parts.window, tr("Import files", "Importer des fichiers"), lastFolder());
+        &m_parts.window, tr("Import files", "Importer des fichiers"), TLocalFiles::lastFolder());
     if (!paths.isEmpty()) {
-        QSettings().setValue(folderKey, QFileInfo(paths.first()).absolutePath());
+        TLocalFiles::rememberFolder(QFileInfo(paths.first()).absolutePath());
         take(paths);
     }
 }
 
 void FileIntake::askForFolder() {
     const QString path = QFileDialog::getExistingDirectory(
-        &m_parts.window, tr("Import a folder", "Importer un dossier"), lastFolder());
+        &m_parts.window, tr("Import a folder", "Importer un dossier"), TLocalFiles::lastFolder());
     if (!path.isEmpty()) {
-        QSettings().setValue(folderKey, path);
+        TLocalFiles::rememberFolder(path);
         take({path});
     }
 }

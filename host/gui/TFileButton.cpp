@@ -1,21 +1,12 @@
 #include "TFileButton.h"
 
 #include "TLineIcon.h"
+#include "TLocalFiles.h"
 
-#include <QDir>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
-#include <QSettings>
-
-namespace {
-
-QString folderKey() {
-    return QStringLiteral("gui/filesFolder");
-}
-
-} // namespace
 
 TFileButton::TFileButton(QWidget* parent) : QToolButton(parent) {
     setAutoRaise(true);
@@ -27,13 +18,12 @@ TFileButton::TFileButton(QWidget* parent) : QToolButton(parent) {
 
 void TFileButton::ask() {
     const QPointer<TFileButton> alive(this); // the dialog runs an event loop
-    const QString folder = QSettings().value(folderKey(), QDir::homePath()).toString();
-    const QStringList paths =
-        QFileDialog::getOpenFileNames(window(), tr("Choose files", "Choisir des fichiers"), folder);
+    const QStringList paths = QFileDialog::getOpenFileNames(
+        window(), tr("Choose files", "Choisir des fichiers"), TLocalFiles::lastFolder());
     if (paths.isEmpty() || alive.isNull()) {
         return;
     }
-    QSettings().setValue(folderKey(), QFileInfo(paths.first()).absolutePath());
+    TLocalFiles::rememberFolder(QFileInfo(paths.first()).absolutePath());
     emit chosen(paths);
 }
 

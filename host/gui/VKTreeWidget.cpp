@@ -2,6 +2,7 @@
 
 #include "TEmptyHint.h"
 #include "TFileButton.h"
+#include "TLocalFiles.h"
 #include "TavrelColors.h"
 
 #include <QClipboard>
@@ -11,22 +12,6 @@
 #include <QMetaMethod>
 #include <QMimeData>
 #include <QPainter>
-#include <QUrl>
-
-namespace {
-
-QStringList localFiles(const QMimeData* data) {
-    QStringList paths;
-    if (data == nullptr)
-        return paths;
-    for (const QUrl& url : data->urls()) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    }
-    return paths;
-}
-
-} // namespace
 
 VKTreeWidget::VKTreeWidget(QWidget* parent, const QString& dropText) : QTreeWidget(parent) {
     setDropText(dropText);
@@ -50,7 +35,7 @@ QSize VKTreeWidget::minimumSizeHint() const {
 
 bool VKTreeWidget::takesFilesOf(const QMimeData* offered) const {
     return isSignalConnected(QMetaMethod::fromSignal(&VKTreeWidget::dataDroppped)) &&
-           !localFiles(offered).isEmpty();
+           !TLocalFiles::of(offered).isEmpty();
 }
 
 void VKTreeWidget::dragEnterEvent(QDragEnterEvent* event) {
@@ -75,7 +60,7 @@ void VKTreeWidget::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     emit dropCalled(event);
     if (takesFilesOf(event->mimeData()))
-        emit dataDroppped(localFiles(event->mimeData()));
+        emit dataDroppped(TLocalFiles::of(event->mimeData()));
 }
 
 void VKTreeWidget::connectNotify(const QMetaMethod& signal) {
@@ -128,7 +113,7 @@ bool VKTreeWidget::hidesAll() const {
 void VKTreeWidget::pasteFiles() {
     const QMimeData* const copied = QGuiApplication::clipboard()->mimeData();
     if (takesFilesOf(copied))
-        emit dataDroppped(localFiles(copied));
+        emit dataDroppped(TLocalFiles::of(copied));
 }
 
 void VKTreeWidget::keyPressEvent(QKeyEvent* event) {
