@@ -61,7 +61,11 @@ CheckSession::CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const
     wireActions();
 }
 
+// The bar lives on for a while behind this: nothing of it may read what ends here.
 CheckSession::~CheckSession() {
+    for (const QPointer<ChangeStrip>& strip : qAsConst(m_strips)) {
+        delete strip;
+    }
     TViewerNotes::returnMe().setSource({});
     m_actions.markFilter(std::nullopt);
     m_actions.setOpen(false);
@@ -117,9 +121,10 @@ void CheckSession::addStrips() {
     const std::array<SliderScientific*, ChangeScan::dialCount> sliders{dials.sensitivity(), dials.coelution(),
                                                                        dials.height()};
     for (std::size_t dial = 0; dial < sliders.size(); ++dial) {
-        sliders[dial]->setUnderlay(new ChangeStrip(m_scan, static_cast<ChangeScan::Dial>(dial),
-                                                   sliders[dial]->slider(),
-                                                   sliders[dial]->scale().decimals()));
+        auto* const strip = new ChangeStrip(m_scan, static_cast<ChangeScan::Dial>(dial),
+                                            sliders[dial]->slider(), sliders[dial]->scale().decimals());
+        sliders[dial]->setUnderlay(strip);
+        m_strips.append(strip);
     }
 }
 

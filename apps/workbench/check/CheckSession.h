@@ -5,15 +5,17 @@
 #include "CheckGrades.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QSet>
+#include <QVector>
 
+class ChangeStrip;
 class CheckActions;
 class VKListViewSignal;
 class VKRibbonModuleBar;
 
 /// What the workbench adds to one open quality check, beside what the module does itself: the reason of each
-/// grade above its curve, ways to
-/// select and filter by grade, and under each slider where grades change.
+/// grade above its curve, ways to select and filter by grade, and under each slider where grades change.
 class CheckSession : public QObject {
     Q_OBJECT
 
@@ -53,5 +55,6 @@ private:
     CheckGrades m_grades;
     CheckFilter m_filter;
     ChangeScan m_scan;
+    QVector<QPointer<ChangeStrip>> m_strips; // the sliders' own, which read the scan
     QSet<const QObject*> m_results;
 };
