@@ -15,6 +15,7 @@
 #include "SampleStore.h"
 #include "ServerAddress.h"
 #include "SqlConnection.h"
+#include "SqlSnapshot.h"
 #include "Transaction.h"
 #include "VKError.h"
 #include "VKObject2Analysis.h"
@@ -293,6 +294,15 @@ void TDatabase::addColumns(qint64 sample, const SampleTable& table) {
 
 SampleTable TDatabase::sampleTable(qint64 sample) const {
     return SampleStore(*m_connection).table(sample);
+}
+
+QVector<QPair<QString, SampleTable>> TDatabase::sampleTables(qint64 well) const {
+    const SqlSnapshot oneState(*m_connection);
+    QVector<QPair<QString, SampleTable>> tables;
+    for (const SampleInfo& sample : samples(well)) {
+        tables.append({sample.name, sampleTable(sample.key)});
+    }
+    return tables;
 }
 
 void TDatabase::followOthers() {

@@ -10,6 +10,7 @@
 #include "TAnalysisData.h"
 
 #include <QObject>
+#include <QPair>
 #include <QSet>
 #include <QVector>
 
@@ -120,6 +121,9 @@ public:
     /// are one row, the second of a name goes to the second, and rows with new names come at the end.
     void addColumns(qint64 sample, const SampleTable& table);
     SampleTable sampleTable(qint64 sample) const;
+    /// All samples of a dataset with their names, in its order and as they stood at one instant, even if
+    /// another window imports the dataset anew meanwhile. Not within a transaction.
+    QVector<QPair<QString, SampleTable>> sampleTables(qint64 well) const;
 
     /// From now on `changedElsewhere` is emitted.
     void followOthers();

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -48,14 +49,14 @@ void writeCurves(const QString& folder, int round) {
 
 /// Of one version from its first sample to the table as a whole.
 void expectWhole(const TechDB::TDatabase& project, const TechDB::DatasetInfo& dataset) {
-    const QVector<TechDB::SampleInfo> samples = project.samples(dataset.key);
+    const auto samples = project.sampleTables(dataset.key);
     ASSERT_GT(samples.size(), 1);
     const int version = samples.size() == shortest + 1 ? 1 : 2;
     ASSERT_EQ(samples.size(), version * shortest + 1) << dataset.name.toStdString();
-    for (const TechDB::SampleInfo& sample : samples) {
-        const TechDB::SampleTable table = project.sampleTable(sample.key);
-        const int columns = sample.key == samples.last().key ? version * shortest : 1;
-        ASSERT_EQ(table.columnNames.size(), columns) << sample.name.toStdString();
+    for (int place = 0; place < samples.size(); ++place) {
+        const auto& [name, table] = samples.at(place);
+        const int columns = place == samples.size() - 1 ? version * shortest : 1;
+        ASSERT_EQ(table.columnNames.size(), columns) << name.toStdString();
         EXPECT_EQ(table.cell(table.rowNames.size() - 1, columns - 1), QVariant(version * 1.0));
     }
 }
@@ -128,6 +129,20 @@ TEST_F(KilledImport, leaves_every_dataset_whole_and_every_analysis_with_its_curv
         }
     }
     EXPECT_GT(analyses, 0) << "no kill came late enough to find anything";
+}
+
+// A server goes on for a moment with what it was asked, so this happens to who looks after a kill as well.
+TEST_F(KilledImport, is_seen_by_other_windows_as_whole_while_it_runs) {
+    writeCurves(folder.filePath("raw"), 0);
+    Importer importer(place(), folder.path());
+    const auto project = TechDB::TDatabase::open(place());
+    int looks = 0;
+    for (const QDeadlineTimer end(2'000); !end.hasExpired() && !HasFailure(); ++looks) {
+        expectSound(*project);
+    }
+    importer.kill();
+    EXPECT_GT(looks, 1);
+    EXPECT_EQ(project->datasets().size(), tables);
 }
 
 TEST_F(KilledImport, of_two_windows_that_import_the_same_names_ends_one_after_the_other) {

@@ -22,8 +22,8 @@ struct Texts {
 
 std::unique_ptr<VKDataModel> datasetTable(const TechDB::TDatabase& database, qint64 key) {
     DatasetTable dataset;
-    for (const TechDB::SampleInfo& sample : database.samples(key)) {
-        dataset.add(sample.name, database.sampleTable(sample.key));
+    for (const auto& [name, sample] : database.sampleTables(key)) {
+        dataset.add(name, sample);
     }
     return dataset.table();
 }
