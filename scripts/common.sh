@@ -11,6 +11,8 @@ cd "$root"
 
 # A compiler cache needs a place to write to, also where there is no home folder.
 [ -w "${HOME:-/nowhere}" ] || export CCACHE_DIR=$root/build/ccache
+# What one clone has compiled another needn't compile again.
+export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
 
 # shellcheck disable=SC2034 # used by the scripts that source this one
 build_packages=(cmake ninja-build g++ ccache rapidjson-dev libcli11-dev libssl-dev)

@@ -20,7 +20,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 # Room and least share of reached lines, in percent; of rooms that lie in each other the innermost counts.
-# Zero is a room whose figure is only told.
+# Zero is a room whose figure is only told. What lies elsewhere isn't instrumented.
 ROOMS = {
     "libraries/internal/algorithm": 95,
     "libraries/rockeval": 95,
@@ -30,10 +30,8 @@ ROOMS = {
     "host/import/xls": 95,
     "host/import/xlsx": 95,
     "host/import/wizard": 0,
-    "host": 0,
     "modules": 85,
     "apps/grade": 0,
-    "apps/workbench": 0,
 }
 
 

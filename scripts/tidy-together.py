@@ -6,16 +6,21 @@
 Reads the compile database, copies all sources of a target that lie in the rooms into one in FOLDER, and tells
 what clang-tidy finds by the names and lines of the sources. Copies and not includes: its analyzer follows
 paths only in the main file. Sources that don't go together, since they give the same name to helpers of
-their own, are looked at alone. Exit 1 if anything was found.
+their own, are looked at alone. What was clean, to the last character of all that it includes, is not looked
+at again; that is remembered in the user's cache folder. Exit 1 if anything was found.
 """
 
 import concurrent.futures
+import hashlib
 import json
+import os
 import pathlib
 import re
 import shlex
 import subprocess
 import sys
+
+ROOT = str(pathlib.Path(__file__).resolve().parent.parent)
 
 # Two sources may include the same.
 TOGETHER = "--checks=-readability-duplicate-include"
@@ -78,12 +83,38 @@ class Group:
         return re.sub(re.escape(str(self.path)) + r":(\d+)", place, text)
 
 
-def tidy(path, flags, translated, *options):
+class Memory:
+    """Which texts were clean under which checks: a file named by the hash of both, wherever the clone lies."""
+
+    def __init__(self):
+        home = os.environ.get("XDG_CACHE_HOME") or pathlib.Path.home() / ".cache"
+        self.folder = pathlib.Path(home) / "vorn" / "tidy"
+        self.folder.mkdir(parents=True, exist_ok=True)
+        self.tool = self.output("clang-tidy", "--version")
+
+    def place(self, path, flags, options):
+        """Comments and macros count too: the first silence checks, the second are checked."""
+        text = self.output("clang++", *flags, "-E", "-C", "-dD", str(path))
+        checks = self.output("clang-tidy", *options, "--dump-config", str(path), "--", *flags)
+        words = "\0".join([self.tool, checks, *flags, *options, text])
+        return self.folder / hashlib.sha256(words.replace(ROOT, "").encode()).hexdigest()
+
+    @staticmethod
+    def output(*command):
+        return subprocess.run(command, capture_output=True, text=True, check=True).stdout
+
+
+def tidy(memory, path, flags, translated, *options):
+    clean = memory.place(path, flags, options)
+    if clean.exists():
+        return True
     run = subprocess.run(["clang-tidy", "--quiet", *options, str(path), "--", *flags],
                          capture_output=True, text=True, check=False)
     if run.returncode:
         print(translated(run.stdout) or run.stderr, flush=True)
-    return run.returncode == 0
+        return False
+    clean.touch()
+    return True
 
 
 def main(database, folder, *rooms):
@@ -92,13 +123,14 @@ def main(database, folder, *rooms):
     found = targets(database, [pathlib.Path(room).resolve() for room in rooms])
     if not found:
         sys.exit(f"{database} has no sources in {', '.join(rooms)}")
+    memory = Memory()
     with concurrent.futures.ThreadPoolExecutor(2) as workers:
         numbered = enumerate(found.items())
         groups = list(workers.map(lambda item: Group(out / f"group{item[0]}.cpp", item[1][1], item[1][0]),
                                   numbered))
-        runs = [workers.submit(tidy, group.path, group.flags, group.translated, TOGETHER)
+        runs = [workers.submit(tidy, memory, group.path, group.flags, group.translated, TOGETHER)
                 for group in groups if group.sources]
-        runs += [workers.submit(tidy, source, group.flags, str) for group in groups for source in group.alone]
+        runs += [workers.submit(tidy, memory, source, group.flags, str) for group in groups for source in group.alone]
         clean = all([run.result() for run in runs])
     print(f"tidy: {sum(len(sources) for sources in found.values())} sources in {len(runs)} runs")
     sys.exit(not clean)

@@ -120,14 +120,7 @@ protected:
             EXPECT_FALSE(text.startsWith("An operation failed") || text.startsWith("Une opération a échoué"))
                 << text.toStdString();
         }
-        if (getenv("SOAK_LOG"))
-            for (int i = 0; i < log.rowCount(); ++i)
-                if (i >= logged0)
-                    qInfo("LOG %s", qPrintable(log.index(i, MessageLogModel::TextColumn).data().toString()));
-        logged0 = log.rowCount();
-        logged = log.rowCount();
     }
-    int logged0 = 0;
 
     const QTemporaryDir files;
     const QTemporaryDir catalogue;
