@@ -1,7 +1,7 @@
 #include "filegrader.h"
 
-#include "core/exception.h"
 #include "digest.h"
+#include "gradereport/enginetext.h"
 #include "gradereport/gradekind.h"
 #include "rockeval/channels.h"
 #include "rockeval/french.h"
@@ -27,14 +27,6 @@ using gradereport::said;
 
 std::string remark(std::string_view english, Language language) {
     return language == Language::french ? rockeval::inFrench(english) : std::string(english);
-}
-
-std::string warningText(const rockeval::Warning& warning, Language language) {
-    if (language == Language::english) {
-        return rockeval::warningText(warning);
-    }
-    const std::string place = warning.line == 0 ? "" : "ligne " + std::to_string(warning.line) + " : ";
-    return place + remark(warning.text, language);
 }
 
 std::string failureText(const std::string& path, const rockeval::ReadError& error, Language language) {
@@ -72,7 +64,7 @@ Outcome graded(const std::string& path, const gradereport::EngineSettings& setti
     file.record.name = gradereport::fileNameOf(path);
     file.record.sha256 = std::move(digest);
     for (const rockeval::Warning& warning : read.warnings) {
-        file.record.warnings.push_back(warningText(warning, language));
+        file.record.warnings.push_back(remark(rockeval::warningText(warning), language));
     }
     return file;
 }
@@ -95,7 +87,7 @@ Outcome gradeFile(const std::string& path, const gradereport::EngineSettings& se
             path +
                 said(language, ": the curve can't be graded, check that it spans a whole heating (",
                      " : la courbe ne peut pas être évaluée, vérifiez qu'elle couvre toute une chauffe (") +
-                algo::core::messageOf(error.what()) + ")."};
+                gradereport::engineText(error.what(), language) + ")."};
     }
 }
 

@@ -1,15 +1,18 @@
 #include "gradejob.h"
 
 #include "earlieroutput.h"
+#include "gradereport/exportorigin.h"
 #include "inputfiles.h"
 #include "progress.h"
 
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <istream>
 #include <ostream>
 #include <stdexcept>
+#include <system_error>
 
 namespace grade {
 
@@ -46,6 +49,16 @@ private:
     std::ofstream m_stream;
 };
 
+/// Where the origin of the machine learning's file goes: beside it, if it is a file that others can lie
+/// beside.
+std::optional<std::string> originOf(const std::optional<std::string>& machineLearning) {
+    std::error_code unknown;
+    if (!machineLearning || !std::filesystem::is_regular_file(*machineLearning, unknown)) {
+        return std::nullopt;
+    }
+    return gradereport::originPath(*machineLearning);
+}
+
 class Job {
 public:
     Job(const Options& options, const Console& console, DoneInputs done)
@@ -79,7 +92,7 @@ public:
 
 private:
     void gradeInOrder(PathList& listed) {
-        const InputFiles inputs = findInputFiles(m_options.paths, listed);
+        const InputFiles inputs = findInputFiles(m_options.paths, listed, m_options.language);
         Progress progress(m_console.err, m_console.showProgress, inputs.files.size());
         grade(inputs, progress);
     }
@@ -93,7 +106,7 @@ private:
             if (!path) {
                 return;
             }
-            grade(filesAt(*path), progress);
+            grade(filesAt(*path, m_options.language), progress);
         }
     }
 
@@ -157,6 +170,10 @@ int run(const Options& options, const Console& console) {
     if (!machineLearning.check(console.err)) {
         return wrongUsage;
     }
+    SideFile origin(originOf(options.machineLearning));
+    if (!origin.check(console.err)) {
+        return wrongUsage;
+    }
     Job job(options, console, std::move(done));
     job.addOutput(formattedOutput(options.format, console.out, console.terminal));
     if (report.wanted()) {
@@ -165,11 +182,16 @@ int run(const Options& options, const Console& console) {
     if (machineLearning.wanted()) {
         job.addOutput(machineLearningOutput(machineLearning.stream()));
     }
+    if (origin.wanted()) {
+        job.addOutput(originOutput(options.settings, origin.stream()));
+    }
     job.work();
 
     report.stream().flush();
     machineLearning.stream().flush();
-    const bool sidesWritten = report.check(console.err) && machineLearning.check(console.err);
+    origin.stream().flush();
+    const bool sidesWritten =
+        report.check(console.err) && machineLearning.check(console.err) && origin.check(console.err);
     if (!console.out) {
         console.err << "The output could not be written to its end; make room or name another place.\n";
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gradereport/graderecord.h"
+#include "gradereport/language.h"
 #include "pathlist.h"
 
 #include <string>
@@ -15,10 +16,12 @@ struct InputFiles {
 };
 
 /// Resolves one path: a folder stands for all its raw signals (.S00 of either case), also in folders below
-/// it; anything else stands for itself. Links to folders are not followed.
-[[nodiscard]] InputFiles filesAt(const std::string& path);
+/// it; anything else stands for itself. Links to folders are not followed. Failures are told in the language.
+[[nodiscard]] InputFiles filesAt(const std::string& path,
+                                 gradereport::Language language = gradereport::Language::english);
 
 /// Resolves all that the user named, each as `filesAt` does; "-" stands for the paths that `listed` gives.
-[[nodiscard]] InputFiles findInputFiles(const std::vector<std::string>& paths, PathList& listed);
+[[nodiscard]] InputFiles findInputFiles(const std::vector<std::string>& paths, PathList& listed,
+                                        gradereport::Language language = gradereport::Language::english);
 
 } // namespace grade

@@ -1,11 +1,13 @@
 #include "outputs.h"
 
 #include "gradereport/csvtable.h"
+#include "gradereport/exportorigin.h"
 #include "gradereport/htmlreport.h"
 #include "gradereport/jsonlines.h"
 #include "gradereport/texttable.h"
 #include "sourcerockqaqc/machinelearningwriter.h"
 
+#include <optional>
 #include <ostream>
 #include <utility>
 
@@ -88,6 +90,29 @@ private:
     std::vector<int> m_labels;
 };
 
+class OriginOutput final : public Output {
+public:
+    OriginOutput(const gradereport::GradeSettings& settings, std::ostream& out) : m_out(out) {
+        m_origin.version = version();
+        m_origin.settings = settings;
+    }
+
+    void add(const GradedFile& file) override {
+        m_origin.inputs.push_back(
+            {file.record.name, std::nullopt, file.record.file, file.record.sha256, file.record.quality});
+    }
+    void addFailure(const gradereport::FailureRecord&) override {} // nothing of it was exported
+    void finish() override { gradereport::writeOrigin(m_out, m_origin); }
+
+private:
+    std::ostream& m_out;
+    gradereport::ExportOrigin m_origin;
+};
+
+gradereport::GradeSettings shown(const gradereport::EngineSettings& settings) {
+    return {settings.sensitivity, settings.coelution, settings.heightCriteria};
+}
+
 } // namespace
 
 std::unique_ptr<Output> formattedOutput(Format format, std::ostream& out, const Terminal& terminal) {
@@ -104,12 +129,15 @@ std::unique_ptr<Output> formattedOutput(Format format, std::ostream& out, const 
 
 std::unique_ptr<Output> reportOutput(const gradereport::EngineSettings& settings,
                                      gradereport::Language language, std::ostream& out) {
-    const gradereport::GradeSettings shown{settings.sensitivity, settings.coelution, settings.heightCriteria};
-    return std::make_unique<ReportOutput>(shown, language, out);
+    return std::make_unique<ReportOutput>(shown(settings), language, out);
 }
 
 std::unique_ptr<Output> machineLearningOutput(std::ostream& out) {
     return std::make_unique<MachineLearningOutput>(out);
+}
+
+std::unique_ptr<Output> originOutput(const gradereport::EngineSettings& settings, std::ostream& out) {
+    return std::make_unique<OriginOutput>(shown(settings), out);
 }
 
 } // namespace grade

@@ -43,4 +43,8 @@ struct Terminal {
 /// The curves and grades for machine learning.
 [[nodiscard]] std::unique_ptr<Output> machineLearningOutput(std::ostream& out);
 
+/// What these rest on: version, settings and digests of all that was graded, written when it is finished.
+[[nodiscard]] std::unique_ptr<Output> originOutput(const gradereport::EngineSettings& settings,
+                                                   std::ostream& out);
+
 } // namespace grade

@@ -30,6 +30,12 @@ QualityCheck::QualityCheck(RibbonHost& ribbon, ModuleLauncher& launcher, Workspa
     });
     connect(&m_workspace, &Workspace::tableOpened, this, &QualityCheck::tableOpened);
     connect(&m_workspace, &Workspace::tableExported, this, &QualityCheck::tableExported);
+    connect(&m_workspace, &Workspace::curvesExported, this,
+            [this](const QString& path, const QStringList& viewers) {
+                if (m_session != nullptr) {
+                    m_session->writeOriginBeside(path, viewers);
+                }
+            });
 }
 
 /// The name that the module gives to the tables of its results.

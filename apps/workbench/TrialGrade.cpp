@@ -3,7 +3,8 @@
 #include "ReadAhead.h"
 #include "VKError.h"
 #include "VKObject2Analysis.h"
-#include "core/exception.h"
+#include "WindowLanguage.h"
+#include "gradereport/enginetext.h"
 #include "sourcerockqaqc/grading.h"
 #include "sourcerockqaqc/rawsignal.h"
 
@@ -38,7 +39,8 @@ QString TrialGrade::refusal(const VKObject2Analysis& analysis, TechDB::ReadAhead
                    "L'analyse <b>%1</b> ne peut pas être évaluée et a été laissée de côté : vérifiez que sa "
                    "courbe couvre toute une chauffe (%2).")
             .arg(analysis.displayName().toHtmlEscaped(),
-                 QString::fromStdString(algo::core::messageOf(error.what())).toHtmlEscaped());
+                 QString::fromStdString(gradereport::engineText(error.what(), windowLanguage()))
+                     .toHtmlEscaped());
     }
     return {};
 }

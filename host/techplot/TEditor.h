@@ -29,6 +29,10 @@ public:
     /// The owner of the plotters that no viewer holds.
     TLooseParts& looseParts() { return m_looseParts; }
 
+signals:
+    /// Viewers of these names were saved to a file.
+    void exported(const QString& path, const QStringList& viewers);
+
 private:
     TLooseParts m_looseParts;
 };

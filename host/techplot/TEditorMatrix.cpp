@@ -7,6 +7,7 @@
 #include "VKViewer2D.h"
 #include <QAction>
 #include <QEvent>
+#include <QPointer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -23,8 +24,7 @@ TEditorMatrix::TEditorMatrix(QWidget* parent)
     connect(m_bar->linkAction(), &QAction::toggled, this, &TEditorMatrix::setLinked);
     connect(m_bar->gridAction(), &QAction::toggled, this, &TEditorMatrix::setGridVisible);
     connect(m_bar->resetAction(), &QAction::triggered, this, &TEditorMatrix::resetAll);
-    connect(m_bar->exportAction(), &QAction::triggered, this,
-            [this] { TExportCommand::run(plots(), QString(), this); });
+    connect(m_bar->exportAction(), &QAction::triggered, this, [this] { save(plots(), QString()); });
     retranslate();
 }
 
@@ -73,8 +73,7 @@ void TEditorMatrix::viewerAdded(TViewer* viewer) {
         return;
     m_joined.append(joining);
     connect(joining, &QObject::destroyed, this, [this, joining] { m_joined.removeAll(joining); });
-    connect(joining, &TViewer::exportRequested, this,
-            [this, joining] { TExportCommand::run({joining}, joining->name(), this); });
+    connect(joining, &TViewer::exportRequested, this, [this, joining] { save({joining}, joining->name()); });
     connect(joining, &VKViewer2D::timeShown, this,
             [this, joining](double from, double to) { relayTime(joining, from, to); });
     connect(joining, &VKViewer2D::timeReset, this, [this] {
@@ -142,6 +141,16 @@ void TEditorMatrix::relayTime(const VKViewer2D* source, double from, double to) 
 
 void TEditorMatrix::adjustViewers() {
     m_column->arrange();
+}
+
+void TEditorMatrix::save(const QVector<const VKViewer2D*>& viewers, const QString& name) {
+    QStringList names;
+    for (const VKViewer2D* viewer : viewers)
+        names.append(viewer->name());
+    const QPointer<TEditorMatrix> self(this);
+    const QString path = TExportCommand::run(viewers, name, this);
+    if (!path.isNull() && self != nullptr)
+        emit exported(path, names);
 }
 
 QVector<const VKViewer2D*> TEditorMatrix::plots() const {

@@ -45,6 +45,7 @@ protected:
 
 private:
     void retranslate();
+    void save(const QVector<const VKViewer2D*>& viewers, const QString& name);
     void setLinked(bool linked);
     void setGridVisible(bool visible);
     void resetAll();

@@ -46,7 +46,7 @@ QString TExportCommand::fileNameFor(const QString& name) {
     return safe.isEmpty() ? Texts::tr("curves", "courbes") : safe;
 }
 
-void TExportCommand::run(const QVector<const VKViewer2D*>& viewers, const QString& name, QWidget* parent) {
+QString TExportCommand::run(const QVector<const VKViewer2D*>& viewers, const QString& name, QWidget* parent) {
     // The dialog runs an event loop: a viewer may be gone when it ends.
     QVector<QPointer<const VKViewer2D>> wanted;
     for (const VKViewer2D* viewer : viewers)
@@ -60,7 +60,7 @@ void TExportCommand::run(const QVector<const VKViewer2D*>& viewers, const QStrin
                   "Image PNG (*.png);;Dessin SVG (*.svg);;Document PDF (*.pdf)"),
         &filter);
     if (fileName.isEmpty())
-        return;
+        return {};
     fileName = withSuffix(fileName, filter);
     QVector<const VKViewer2D*> present;
     for (const auto& viewer : qAsConst(wanted)) {
@@ -73,8 +73,10 @@ void TExportCommand::run(const QVector<const VKViewer2D*>& viewers, const QStrin
         MessageLoggerInterface::Information(
             Texts::tr("Curves were saved to <b>%1</b>.", "Les courbes ont été enregistrées dans <b>%1</b>.")
                 .arg(QDir::toNativeSeparators(fileName).toHtmlEscaped()));
+        return fileName;
     } catch (const VKError& error) {
         MessageLoggerInterface::Error(error.text());
+        return {};
     }
 }
 

@@ -1,3 +1,4 @@
+#include "digest.h"
 #include "gradejob.h"
 #include "rockeval/channels.h"
 #include "rockeval/signalreader.h"
@@ -111,6 +112,17 @@ TEST(GradeJob, the_machine_learning_file_is_what_the_manager_exports) {
     manager.exportData(exported);
     EXPECT_EQ(contentOf(folder.path("ml.txt")), exported.str());
     EXPECT_NE(exported.str().find("]\n]\ny=[2;]\n"), std::string::npos);
+
+    rapidjson::Document origin;
+    origin.Parse(contentOf(folder.path("ml.origin.json")).c_str());
+    ASSERT_FALSE(origin.HasParseError());
+    EXPECT_STREQ(origin["version"].GetString(), grade::version());
+    EXPECT_EQ(origin["settings"]["coelution"].GetDouble(), options.settings.coelution);
+    ASSERT_EQ(origin["inputs"].Size(), 1U);
+    EXPECT_EQ(origin["inputs"][0]["sha256"].GetString(), grade::sha256(contentOf(path)));
+    EXPECT_EQ(origin["inputs"][0]["quality"].GetInt(), 2);
+    options.machineLearning = "/dev/null";
+    EXPECT_EQ(run(options).status, 0) << "nothing can lie beside it";
 }
 
 TEST(GradeJob, french_reaches_reasons_warnings_and_failures_and_leaves_the_words_of_programs) {

@@ -55,6 +55,8 @@ TEST(InputFiles, an_empty_folder_is_a_failure_and_any_other_path_stands_for_itse
     const InputFiles found = findInputFiles({folder.path(), folder.path("missing.txt")});
     ASSERT_EQ(found.failures.size(), 1U);
     EXPECT_NE(found.failures.front().error.find("no raw signal"), std::string::npos);
+    const InputFiles french = grade::filesAt(folder.path(), gradereport::Language::french);
+    EXPECT_NE(french.failures.front().error.find("aucun signal brut"), std::string::npos);
     EXPECT_EQ(found.files, std::vector<std::string>{folder.path("missing.txt")});
 }
 

@@ -7,12 +7,17 @@
 #include "gradejob.h"
 
 #include <QCryptographicHash>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineEdit>
 #include <QPointer>
+#include <QPushButton>
+#include <QTimer>
 
 #include <fstream>
 #include <sstream>
@@ -27,9 +32,11 @@ protected:
     CheckSession& session() { return *workbench->qualityCheck().session(); }
 
     /// The report of the batch grader on all of a folder.
-    QByteArray byGrader(const QString& inputs, const gradereport::EngineSettings& settings) {
+    QByteArray byGrader(const QString& inputs, const gradereport::EngineSettings& settings,
+                        gradereport::Language language = gradereport::Language::english) {
         grade::Options options;
         options.settings = settings;
+        options.language = language;
         options.report = path("grader.html").toStdString();
         options.paths = {inputs.toStdString()};
         std::istringstream in;
@@ -68,12 +75,16 @@ TEST_F(Report, from_the_window_has_the_bytes_of_the_batch_graders_on_the_same_ra
     ASSERT_GT(expected.size(), 100000);
     EXPECT_TRUE(bytes(path("window.html")) == expected);
     EXPECT_TRUE(messages(MessageLevel::Information).last().contains("window.html"));
+    workbench->language().choose(LanguageSwitch::Language::French);
+    session().writeReport(path("fenêtre.html"));
+    EXPECT_TRUE(bytes(path("fenêtre.html")) == byGrader(raw, settings, gradereport::Language::french));
     EXPECT_TRUE(errors().isEmpty());
 }
 
 TEST_F(Report, every_other_export_has_settings_version_and_digests_beside_it) {
     const QString name = "flat-broad-01.S00";
     dropNamed({name});
+    select({name});
     move(height(), 123);
     editor()->slotEventOccured(ModuleObserver::dataEditorAction);
     settle();
@@ -91,6 +102,16 @@ TEST_F(Report, every_other_export_has_settings_version_and_digests_beside_it) {
                   QCryptographicHash::hash(raw, QCryptographicHash::Sha256).toHex());
         EXPECT_EQ(input["quality"].toInt(), 1) << "low enough a limit";
     }
+    QTimer::singleShot(0, [this] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QLineEdit*>()->setText(path("curve.png"));
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    });
+    emit workspace().findChild<TechPlot::TEditorMatrix*>()->viewers().first()->exportRequested();
+    const QJsonObject curve = QJsonDocument::fromJson(bytes(path("curve.origin.json"))).object();
+    EXPECT_EQ(curve["inputs"].toArray().size(), 1);
+    EXPECT_EQ(curve["inputs"].toArray()[0].toObject()["quality"].toInt(), 1);
     editor()->closeRequested();
     settle();
     workbench->qualityCheck().start();

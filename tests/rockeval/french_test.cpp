@@ -38,6 +38,10 @@ TEST(French, whatever_the_readers_remark_has_a_french_form_that_keeps_what_stood
                              "a.S00");
     expectFrench(signal.warnings, 5);
     EXPECT_EQ(inFrench(signal.warnings[3].text), "secondes manquantes : 8 entre 0 s et 9 s");
+    EXPECT_EQ(inFrench(warningText(signal.warnings[3])),
+              "ligne 6 : secondes manquantes : 8 entre 0 s et 9 s");
+    EXPECT_EQ(inFrench("line x: missing"), "line x: missing");
+    EXPECT_EQ(inFrench("line "), "line ");
     EXPECT_EQ(
         inFrench(signal.warnings[1].text),
         "ligne laissée de côté : \"x between y\", dans la colonne FID, n'est pas un nombre qui peut être "

@@ -1,16 +1,8 @@
 #include "CheckReasons.h"
 
 #include "CheckGrades.h"
+#include "WindowLanguage.h"
 #include "gradereport/gradereason.h"
-
-namespace {
-
-gradereport::Language language() {
-    return CheckReasons::tr("English", "French") == QLatin1String("French") ? gradereport::Language::french
-                                                                            : gradereport::Language::english;
-}
-
-} // namespace
 
 QString CheckReasons::reason(const CheckGrades& grades, const QString& name) {
     CheckedAnalysis* const analysis = grades.named(name);
@@ -20,5 +12,5 @@ QString CheckReasons::reason(const CheckGrades& grades, const QString& name) {
     }
     const gradereport::EngineSettings settings = grades.dials().settings();
     const auto grading = algo::sr_qaqc::grade<double, std::vector<double>>(signal, settings);
-    return QString::fromStdString(gradereport::gradeReason(grading, settings, language()));
+    return QString::fromStdString(gradereport::gradeReason(grading, settings, windowLanguage()));
 }

@@ -4,9 +4,11 @@
 #include "MessageLoggerInterface.h"
 #include "TDatabase.h"
 #include "VKError.h"
+#include "WindowLanguage.h"
 #include "gradereport/describe.h"
 #include "gradereport/htmlreport.h"
 #include "gradereport/naturalorder.h"
+#include "rockeval/french.h"
 
 #include <QDir>
 #include <QSaveFile>
@@ -44,15 +46,18 @@ std::vector<Entry> entriesOf(const CheckGrades& grades) {
 }
 
 gradereport::GradeRecord recordOf(const Entry& entry, const CheckedAnalysis::Signal& signal,
-                                  const gradereport::EngineSettings& settings) {
+                                  const gradereport::EngineSettings& settings,
+                                  gradereport::Language language) {
     const auto grading = algo::sr_qaqc::grade<double, std::vector<double>>(signal, settings);
-    auto record = gradereport::describe(*signal, grading, settings, gradereport::Curves::included);
+    auto record = gradereport::describe(*signal, grading, settings, gradereport::Curves::included, language);
     record.file = entry.file;
     record.name = gradereport::fileNameOf(entry.file);
     if (entry.origin) {
         record.sha256 = entry.origin->sha256.toStdString();
         for (const QString& warning : entry.origin->warnings) {
-            record.warnings.push_back(warning.toStdString());
+            const std::string english = warning.toStdString();
+            const bool french = language == gradereport::Language::french;
+            record.warnings.push_back(french ? rockeval::inFrench(english) : english);
         }
     }
     return record;
@@ -62,17 +67,23 @@ gradereport::GradeRecord recordOf(const Entry& entry, const CheckedAnalysis::Sig
 
 CheckReport::CheckReport(const CheckGrades& grades) {
     const gradereport::EngineSettings settings = grades.dials().settings();
+    const gradereport::Language language = windowLanguage();
     gradereport::HtmlReport report({settings.sensitivity, settings.coelution, settings.heightCriteria},
-                                   VORN_VERSION);
+                                   VORN_VERSION, language);
     for (const Entry& entry : entriesOf(grades)) {
         ++m_count;
         const CheckedAnalysis::Signal signal = entry.analysis->signal();
         if (signal == nullptr) {
-            report.addFailure({entry.file, entry.file + ": the curve is no longer in the project; import the "
-                                                        "file again."});
+            report.addFailure(
+                {entry.file,
+                 entry.file + gradereport::said(language,
+                                                ": the curve is no longer in the project; import "
+                                                "the file again.",
+                                                " : la courbe n'est plus dans le projet ; importez "
+                                                "à nouveau le fichier.")});
         } else {
             m_withoutOrigin += entry.origin ? 0 : 1;
-            report.add(recordOf(entry, signal, settings));
+            report.add(recordOf(entry, signal, settings, language));
         }
     }
     std::ostringstream page;

@@ -6,7 +6,7 @@
 class CheckGrades;
 
 /// The HTML report on the analyses of a quality check: byte for byte the one that the batch grader writes on
-/// the raw files that they were read from, with the same settings.
+/// the raw files that they were read from, with the same settings and in the language of the window.
 class CheckReport {
     Q_DECLARE_TR_FUNCTIONS(CheckReport)
 

@@ -7,6 +7,7 @@
 #include "CheckReport.h"
 #include "CheckSelection.h"
 #include "MessageLoggerInterface.h"
+#include "OriginFile.h"
 #include "SliderScientific.h"
 #include "TViewerNotes.h"
 #include "VKError.h"
@@ -85,9 +86,9 @@ void CheckSession::addResults(const QObject* table) {
     connect(table, &QObject::destroyed, this, [this, table] { m_results.remove(table); });
 }
 
-void CheckSession::writeOriginBeside(const QString& exported) {
+void CheckSession::writeOriginBeside(const QString& exported, const QStringList& names) {
     try {
-        CheckOrigin::writeBeside(exported, m_grades);
+        OriginFile::writeBeside(exported, CheckOrigin::of(m_grades, names));
     } catch (const std::exception& error) {
         VKError::dispatchError(error);
     }

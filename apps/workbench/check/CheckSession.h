@@ -34,8 +34,9 @@ public:
     void addResults(const QObject* table);
     bool holdsResults(const QObject* table) const { return m_results.contains(table); }
 
-    /// Writes what the grades rest on beside an export; success and failure go to the log.
-    void writeOriginBeside(const QString& exported);
+    /// Writes what the grades rest on beside an export, of the analyses with these names, or of all without
+    /// names; success and failure go to the log.
+    void writeOriginBeside(const QString& exported, const QStringList& names = {});
 
     /// Writes the report; success and failure go to the log.
     void writeReport(const QString& path);

@@ -4,8 +4,10 @@
 #include "CurveTable.h"
 #include "DatasetTable.h"
 #include "MessageLoggerInterface.h"
+#include "OriginFile.h"
 #include "TDatabase.h"
 #include "TExportCommand.h"
+#include "TableOrigin.h"
 #include "VKDataModelGeneric.h"
 #include "VKError.h"
 #include "VKObject2.h"
@@ -13,6 +15,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -42,14 +48,38 @@ std::unique_ptr<VKDataModel> contentsOf(const VKObject2& object) {
     return std::make_unique<CurveTable>(database->curve(object.key()));
 }
 
-// A path in the folder where no file lies yet.
+// A path in the folder where no file lies yet, nor one about its origin.
 QString freePath(const QDir& folder, const QString& name) {
+    const auto isTaken = [](const QString& path) {
+        return QFileInfo::exists(path) ||
+               QFileInfo::exists(QString::fromStdString(gradereport::originPath(path.toStdString())));
+    };
     const QString base = TechPlot::TExportCommand::fileNameFor(name);
     QString path = folder.filePath(base + QStringLiteral(".csv"));
-    for (int number = 2; QFileInfo::exists(path); ++number) {
+    for (int number = 2; isTaken(path); ++number) {
         path = folder.filePath(QStringLiteral("%1 (%2).csv").arg(base).arg(number));
     }
     return path;
+}
+
+gradereport::OriginInput inputOf(const VKObject2& object) {
+    const bool isDataset = object.type() == VKObjectType::Well;
+    const auto origin = isDataset ? std::nullopt : object.db()->origin(object.key());
+    return OriginFile::input(object.displayName(), origin ? &*origin : nullptr);
+}
+
+std::string projectOf(const VKObject2& object) {
+    return object.db() == nullptr ? std::string() : object.db()->path().toStdString();
+}
+
+void tellExported(std::size_t count, const QString& folderOrFile) {
+    const QString place = QDir::toNativeSeparators(folderOrFile).toHtmlEscaped();
+    MessageLoggerInterface::Information(count == 1 ? Texts::tr("A table was exported to <b>%1</b>.",
+                                                               "Un tableau a été exporté vers <b>%1</b>.")
+                                                         .arg(place)
+                                                   : Texts::tr("%1 tables were exported to <b>%2</b>.",
+                                                               "%1 tableaux ont été exportés vers <b>%2</b>.")
+                                                         .arg(QString::number(count), place));
 }
 
 bool exported(const VKObject2& object, const QString& path) {
@@ -67,24 +97,28 @@ bool exported(const VKObject2& object, const QString& path) {
 std::unique_ptr<VKDataModel> ObjectTable::of(const VKObject2& object) {
     std::unique_ptr<VKDataModel> table = contentsOf(object);
     table->setName(object.displayName(), QFileInfo(object.db()->path()).completeBaseName());
+    new TableOrigin({{}, projectOf(object), std::nullopt, {inputOf(object)}}, table.get());
     return table;
 }
 
 void ObjectTable::exportCsv(const QList<const VKObject2*>& objects, const QString& folderOrFile) {
     const bool toFile = objects.size() == 1 && !QFileInfo(folderOrFile).isDir();
-    int count = 0;
+    gradereport::ExportOrigin origin;
     for (const VKObject2* object : objects) {
         const QString path = toFile ? folderOrFile : freePath(QDir(folderOrFile), object->displayName());
-        count += exported(*object, path) ? 1 : 0;
+        if (!exported(*object, path)) {
+            continue;
+        }
+        origin.project = projectOf(*object);
+        origin.inputs.push_back(inputOf(*object));
+        origin.inputs.back().table = QFileInfo(path).fileName().toStdString();
     }
-    if (count == 0) {
+    if (origin.inputs.empty()) {
         return;
     }
-    const QString place = QDir::toNativeSeparators(folderOrFile).toHtmlEscaped();
-    MessageLoggerInterface::Information(count == 1 ? Texts::tr("A table was exported to <b>%1</b>.",
-                                                               "Un tableau a été exporté vers <b>%1</b>.")
-                                                         .arg(place)
-                                                   : Texts::tr("%1 tables were exported to <b>%2</b>.",
-                                                               "%1 tableaux ont été exportés vers <b>%2</b>.")
-                                                         .arg(QString::number(count), place));
+    tellExported(origin.inputs.size(), folderOrFile);
+    // One file for all: as many again would bury the tables.
+    OriginFile::writeBeside(toFile ? folderOrFile
+                                   : freePath(QDir(folderOrFile), Texts::tr("tables", "tableaux")),
+                            std::move(origin));
 }

@@ -3,10 +3,12 @@
 #include "ClipboardText.h"
 #include "CsvFile.h"
 #include "MessageLoggerInterface.h"
+#include "OriginFile.h"
 #include "TExportCommand.h"
 #include "TableBar.h"
 #include "TableGrid.h"
 #include "TableOrder.h"
+#include "TableOrigin.h"
 #include "VKError.h"
 
 #include <QAction>
@@ -114,6 +116,9 @@ void TableView::exportTo(const QString& path) {
         MessageLoggerInterface::Information(
             tr("The table was exported to <b>%1</b>.", "Le tableau a été exporté vers <b>%1</b>.")
                 .arg(QDir::toNativeSeparators(path).toHtmlEscaped()));
+        if (const TableOrigin* const origin = TableOrigin::of(*m_model)) {
+            OriginFile::writeBeside(path, origin->origin());
+        }
         emit exported(path);
     } catch (const std::exception& error) {
         VKError::dispatchError(error);

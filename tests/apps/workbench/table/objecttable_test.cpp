@@ -2,6 +2,10 @@
 #include "ObjectTable.h"
 #include "ProjectFixture.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 namespace {
 
 using ObjectTableTest = ProjectTest;
@@ -25,6 +29,11 @@ QStringList rowOf(const VKDataModel& table, int row) {
         texts.append(table.index(row, column).data().toString());
     }
     return texts;
+}
+
+QJsonObject jsonOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
 }
 
 } // namespace
@@ -77,18 +86,27 @@ TEST_F(ObjectTableTest, several_are_exported_under_safe_names_and_overwrite_noth
     MessageCollector log;
     MessageLoggerInterface::setDefaultLogger(&log);
     const auto* const first = database->addAnalysis("../a:b", "SR", ramp());
+    database->setOrigin(first->key(), {"/raw/a.S00", QString(64, 'a'), {}});
     const auto* const second = database->addAnalysis("..?a*b", "SR", ramp());
     const auto* const gone = database->addAnalysis("gone", "SR", ramp());
     database->removeAnalysis(gone->key());
     ASSERT_TRUE(QDir(folder.path()).mkdir("out"));
     const QDir out(path("out"));
     ObjectTable::exportCsv({first, gone, second}, out.path());
-    ASSERT_EQ(out.entryList(QDir::Files).size(), 2);
+    ASSERT_EQ(out.entryList({"*.csv"}, QDir::Files).size(), 2);
+    const QJsonObject origin = jsonOf(out.filePath("tables.origin.json"));
+    EXPECT_EQ(origin["version"].toString(), VORN_VERSION);
+    EXPECT_EQ(origin["project"].toString(), database->path());
+    ASSERT_EQ(origin["inputs"].toArray().size(), 2);
+    const QJsonObject input = origin["inputs"].toArray().at(0).toObject();
+    EXPECT_EQ(input["sha256"].toString(), QString(64, 'a'));
+    EXPECT_TRUE(out.exists(input["table"].toString()));
+    EXPECT_TRUE(origin["inputs"].toArray().at(1).toObject()["sha256"].isNull());
     EXPECT_EQ(log.messages(MessageLevel::Error).size(), 1);
-    ASSERT_EQ(log.messages(MessageLevel::Information).size(), 1);
+    ASSERT_EQ(log.messages(MessageLevel::Information).size(), 2);
     EXPECT_TRUE(log.messages(MessageLevel::Information).first().startsWith("2 tables"));
     ObjectTable::exportCsv({first}, out.path());
-    EXPECT_EQ(out.entryList(QDir::Files).size(), 3);
+    EXPECT_EQ(out.entryList({"*.csv"}, QDir::Files).size(), 3);
     ObjectTable::exportCsv({first}, path("one.csv"));
     EXPECT_EQ(bytesOf(path("one.csv")), "\xef\xbb\xbfTime [s],FID\r\n0,2\r\n1,1\r\n2,0\r\n");
     ObjectTable::exportCsv({first, second}, path("nowhere"));
