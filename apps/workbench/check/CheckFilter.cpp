@@ -76,10 +76,11 @@ void CheckFilter::showState() {
     const QString name = CheckActions::filterName(m_only);
     m_button->setText(
         m_only ? tr("%1: %2 of %3", "%1 : %2 sur %3").arg(name, locale.toString(shownCount()), all) : name);
-    m_button->setToolTip(tr("Show only the analyses of one grade", "N'afficher que les analyses d'un grade"));
+    m_button->setToolTip(
+        tr("Show only the analyses of one grade", "N'afficher que les analyses d'une évaluation"));
     m_button->setAccessibleName(m_button->text());
     m_list.setAllHiddenText(tr("None of the %1 analyses has this grade.\nShift+F9 shows all.",
-                               "Aucune des %1 analyses n'a ce grade.\nMaj+F9 les affiche toutes.")
+                               "Aucune des %1 analyses n'a cette évaluation.\nMaj+F9 les affiche toutes.")
                                 .arg(all));
 }
 

@@ -49,7 +49,7 @@ void CheckSelection::selectKind(VKListViewSignal& list, CheckGrades& grades, gra
     if (found.isEmpty()) {
         MessageLoggerInterface::Information(
             tr("No analysis in the list has the grade <b>%1</b>; the selection stays as it was.",
-               "Aucune analyse de la liste n'a le grade <b>%1</b> ; la sélection reste inchangée.")
+               "Aucune analyse de la liste n'a l'évaluation <b>%1</b> ; la sélection reste inchangée.")
                 .arg(CheckActions::filterName(kind)));
         return;
     }

@@ -20,7 +20,8 @@ enum Column { NameColumn, CountColumn, ChoiceColumn, ColumnCount };
 
 constexpr int mostNames = 500; // that are listed of a kind
 constexpr int mostShownAtOnce = 4;
-constexpr QSize startSize(720, 420);
+constexpr QSize startSize(860, 440); // the reasons why files are left out take most of it
+constexpr int nameWidth = 330;
 constexpr int targetRole = Qt::UserRole;
 constexpr int pathRole = Qt::UserRole + 1;
 
@@ -41,7 +42,7 @@ DropDialog::DropDialog(const DropGroups& groups, QWidget* parent)
         addGroup(group);
     }
     m_list->header()->setStretchLastSection(true);
-    m_list->setColumnWidth(NameColumn, startSize.width() / 2);
+    m_list->setColumnWidth(NameColumn, nameWidth);
     m_list->resizeColumnToContents(CountColumn);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     auto* const go = buttons->addButton(tr("Import", "Importer"), QDialogButtonBox::AcceptRole);
