@@ -9,6 +9,7 @@
 #include "RibbonHost.h"
 #include "SliderScientific.h"
 #include "SourceRockQAQCCtrl.h"
+#include "TEditor.h"
 #include "TrialGate.h"
 #include "VKDataModel.h"
 #include "VKListViewSignal.h"
@@ -30,6 +31,11 @@ QualityCheck::QualityCheck(RibbonHost& ribbon, ModuleLauncher& launcher, Workspa
     });
     connect(&m_workspace, &Workspace::tableOpened, this, &QualityCheck::tableOpened);
     connect(&m_workspace, &Workspace::tableExported, this, &QualityCheck::tableExported);
+    connect(&m_workspace, &Workspace::curvesShown, this, [this](TechPlot::TEditor* curves) {
+        if (m_session != nullptr) {
+            m_session->setCurves(curves);
+        }
+    });
     connect(&m_workspace, &Workspace::curvesExported, this,
             [this](const QString& path, const QStringList& viewers) {
                 if (m_session != nullptr) {

@@ -78,6 +78,7 @@ void Workspace::showEditor(QWidget* editor) {
     if (auto* const plots = dynamic_cast<TechPlot::TEditor*>(editor)) {
         m_plots = plots;
         connect(plots, &TechPlot::TEditor::exported, this, &Workspace::curvesExported, Qt::UniqueConnection);
+        emit curvesShown(plots);
     }
     bringToFront(editor);
 }

@@ -48,6 +48,8 @@ signals:
     void tableOpened(const VKDataModel* table);
     /// A table was written to a file.
     void tableExported(const VKDataModel* table, const QString& path);
+    /// A module shows its curves.
+    void curvesShown(TechPlot::TEditor* curves);
     /// Viewers of these names were saved to a file.
     void curvesExported(const QString& path, const QStringList& viewers);
 

@@ -3,6 +3,7 @@
 #include "HelpId.h"
 #include "HelpInterface.h"
 #include "TLooseParts.h"
+#include "TViewerNotes.h"
 
 #include <QWidget>
 
@@ -29,12 +30,16 @@ public:
     /// The owner of the plotters that no viewer holds.
     TLooseParts& looseParts() { return m_looseParts; }
 
+    /// What is said under the titles of its viewers.
+    TViewerNotes& notes() { return m_notes; }
+
 signals:
     /// Viewers of these names were saved to a file.
     void exported(const QString& path, const QStringList& viewers);
 
 private:
     TLooseParts m_looseParts;
+    TViewerNotes m_notes;
 };
 
 } // namespace TechPlot

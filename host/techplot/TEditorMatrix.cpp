@@ -48,6 +48,7 @@ void TEditorMatrix::insertRow(TViewer* viewer, int row) {
     if (viewer == nullptr || viewers().contains(viewer))
         return;
     TEditorRegistry::returnMe().adopt(this, viewer->serial());
+    viewer->setNotes(&notes());
     m_column->insert(viewer, row);
 }
 
@@ -55,6 +56,7 @@ void TEditorMatrix::extractViewer(TViewer* viewer) {
     if (!m_column->take(viewer))
         return;
     viewer->disconnect(this);
+    viewer->setNotes(nullptr);
     viewer->setParent(this);
     const auto place = std::find(m_joined.begin(), m_joined.end(), viewer);
     if (place == m_joined.end())

@@ -58,6 +58,15 @@ void TViewer::showEvent(QShowEvent* event) {
     askForNote();
 }
 
+void TViewer::setNotes(const TViewerNotes* notes) {
+    if (m_notes != nullptr)
+        m_notes->disconnect(this);
+    m_notes = notes;
+    if (notes != nullptr)
+        connect(notes, &TViewerNotes::changed, this, &TViewer::askForNote);
+    askForNote();
+}
+
 QString TViewer::note() const {
     return m_note == nullptr ? QString() : m_note->text();
 }
@@ -65,7 +74,7 @@ QString TViewer::note() const {
 // One out of sight asks when it is shown.
 void TViewer::askForNote() {
     if (m_note != nullptr && isVisible())
-        m_note->setText(TViewerNotes::returnMe().note(m_name));
+        m_note->setText(m_notes == nullptr ? QString() : m_notes->note(m_name));
 }
 
 void TViewer::changeEvent(QEvent* event) {
@@ -81,7 +90,6 @@ void TViewer::build() {
     connect(m_title, &TViewerTitle::closeClicked, this, &TViewer::requestClose);
     connect(m_title, &TViewerTitle::exportClicked, this, &TViewer::exportRequested);
     m_note = new TViewerNote(this);
-    connect(&TViewerNotes::returnMe(), &TViewerNotes::changed, this, &TViewer::askForNote);
     m_focus = connect(qApp, &QApplication::focusChanged, this, &TViewer::followFocus);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(1, 1, 1, 1);

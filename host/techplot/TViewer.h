@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -7,6 +8,7 @@ namespace TechPlot {
 
 class TViewer2DEmitterConnect;
 class TViewerNote;
+class TViewerNotes;
 class TViewerTitle;
 
 /// Base of what an editor holds: a framed widget with a title, a close button, a body and, where there is
@@ -36,6 +38,9 @@ public:
     /// What the close button does: tells the emitter's listeners, and then disposes of a deletable viewer
     /// later than the running event. While the listeners are told, it does nothing.
     void requestClose();
+
+    /// Where the sentence under the title comes from; null for nowhere. The viewer forgets one that ends.
+    void setNotes(const TViewerNotes* notes);
 
     /// The sentence under the title (see TViewerNotes) as it was when the viewer was last on screen.
     QString note() const;
@@ -70,6 +75,7 @@ private:
     TViewer2DEmitterConnect* m_emitter;
     TViewerTitle* m_title = nullptr;
     TViewerNote* m_note = nullptr;
+    QPointer<const TViewerNotes> m_notes;
     quint64 m_serial;
     QMetaObject::Connection m_focus;
     bool m_deletable = true;

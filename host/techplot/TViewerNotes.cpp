@@ -4,11 +4,6 @@
 
 namespace TechPlot {
 
-TViewerNotes& TViewerNotes::returnMe() {
-    static TViewerNotes notes;
-    return notes;
-}
-
 void TViewerNotes::setSource(Source source) {
     m_source = std::move(source);
     emit changed();

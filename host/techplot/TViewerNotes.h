@@ -7,17 +7,15 @@
 
 namespace TechPlot {
 
-/// What stands as a sentence under a viewer's title. A module makes its viewers and knows nothing of notes;
-/// whoever has something to say about what they show says it here, by the viewer's name. A viewer asks when
-/// it is on screen, so one that nobody looks at costs nothing.
+/// What stands as a sentence under the titles of an editor's viewers. A module makes its viewers and knows
+/// nothing of notes; whoever has something to say about what they show says it here, by the viewer's name. A
+/// viewer asks when it is on screen, so one that nobody looks at costs nothing.
 class TViewerNotes : public QObject {
     Q_OBJECT
 
 public:
     /// Plain text for the viewer of that name; empty for one that there is nothing to say about.
     using Source = std::function<QString(const QString& viewerName)>;
-
-    static TViewerNotes& returnMe();
 
     /// In place of the source before; an empty one has nothing to say. Viewers ask again.
     void setSource(Source source);
@@ -30,8 +28,6 @@ signals:
     void changed();
 
 private:
-    TViewerNotes() = default;
-
     Source m_source;
 };
 

@@ -9,7 +9,7 @@
 #include "MessageLoggerInterface.h"
 #include "OriginFile.h"
 #include "SliderScientific.h"
-#include "TViewerNotes.h"
+#include "TEditor.h"
 #include "VKError.h"
 #include "VKListViewSignal.h"
 #include "VKRibbonGroup.h"
@@ -23,8 +23,6 @@
 
 #include <array>
 #include <exception>
-
-using TechPlot::TViewerNotes;
 
 namespace {
 
@@ -52,8 +50,6 @@ CheckSession::CheckSession(VKRibbonModuleBar& bar, VKListViewSignal& list, const
                            CheckActions& actions)
     : QObject(&bar), m_list(list), m_actions(actions), m_grades(list, dials, this),
       m_filter(list, m_grades, *actions.filterMenu(), this), m_scan(m_grades, this) {
-    TViewerNotes::returnMe().setSource(
-        [this](const QString& viewer) { return CheckReasons::reason(m_grades, viewer); });
     for (const SliderScientific* const slider : {dials.sensitivity(), dials.coelution(), dials.height()}) {
         connect(slider, &SliderScientific::valueChanged, this, &CheckSession::followSettings);
     }
@@ -67,7 +63,7 @@ CheckSession::~CheckSession() {
     for (const QPointer<ChangeStrip>& strip : qAsConst(m_strips)) {
         delete strip;
     }
-    TViewerNotes::returnMe().setSource({});
+    setCurves(nullptr);
     m_actions.markFilter(std::nullopt);
     m_actions.setOpen(false);
 }
@@ -79,6 +75,20 @@ void CheckSession::wireActions() {
     connect(&m_actions, &CheckActions::filterRequested, this, &CheckSession::setFilter);
     connect(&m_actions, &CheckActions::reportRequested, this, &CheckSession::askWhereToReport);
     m_actions.setOpen(true);
+}
+
+void CheckSession::setCurves(TechPlot::TEditor* curves) {
+    if (m_curves == curves) {
+        return;
+    }
+    if (m_curves != nullptr) {
+        m_curves->notes().setSource({});
+    }
+    m_curves = curves;
+    if (curves != nullptr) {
+        curves->notes().setSource(
+            [this](const QString& viewer) { return CheckReasons::reason(m_grades, viewer); });
+    }
 }
 
 void CheckSession::addResults(const QObject* table) {
@@ -131,7 +141,9 @@ void CheckSession::addStrips() {
 
 void CheckSession::followSettings() {
     m_scan.beginAnew();
-    TViewerNotes::returnMe().refresh();
+    if (m_curves != nullptr) {
+        m_curves->notes().refresh();
+    }
     if (m_filter.only()) {
         m_filter.apply();
     }

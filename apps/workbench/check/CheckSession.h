@@ -14,6 +14,10 @@ class CheckActions;
 class VKListViewSignal;
 class VKRibbonModuleBar;
 
+namespace TechPlot {
+class TEditor;
+}
+
 /// What the workbench adds to one open quality check, beside what the module does itself: the reason of each
 /// grade above its curve, ways to select and filter by grade, and under each slider where grades change.
 class CheckSession : public QObject {
@@ -29,6 +33,9 @@ public:
     CheckGrades& grades() { return m_grades; }
     CheckFilter& filter() { return m_filter; }
     ChangeScan& scan() { return m_scan; }
+
+    /// Says the reasons of the grades above these curves from now on, in place of those before.
+    void setCurves(TechPlot::TEditor* curves);
 
     /// Takes note of a table of results that was opened in this check: its cells follow the sliders.
     void addResults(const QObject* table);
@@ -56,6 +63,7 @@ private:
     CheckGrades m_grades;
     CheckFilter m_filter;
     ChangeScan m_scan;
+    QPointer<TechPlot::TEditor> m_curves;
     QVector<QPointer<ChangeStrip>> m_strips; // the sliders' own, which read the scan
     QSet<const QObject*> m_results;
 };
