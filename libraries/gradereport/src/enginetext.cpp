@@ -43,7 +43,7 @@ constexpr std::array enginePhrases{
 } // namespace
 
 std::string engineText(const std::string& what, Language language) {
-    const std::string message = algo::core::messageOf(what);
+    std::string message = algo::core::messageOf(what);
     if (language == Language::english)
         return message;
     const bool ownWords = what.rfind("Error in ", 0) == 0;
