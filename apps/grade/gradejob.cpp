@@ -1,6 +1,7 @@
 #include "gradejob.h"
 
 #include "earlieroutput.h"
+#include "gradereport/describe.h"
 #include "gradereport/exportorigin.h"
 #include "inputfiles.h"
 #include "progress.h"
@@ -153,10 +154,8 @@ int run(const Options& options, const Console& console) {
     DoneInputs done;
     if (options.skipDone) {
         try {
-            const auto& settings = options.settings;
             earlier.emplace(*options.skipDone, console.descriptor, console.err);
-            done =
-                earlier->read({settings.sensitivity, settings.coelution, settings.heightCriteria}, version());
+            done = earlier->read(gradereport::settingsOf(options.settings), version());
         } catch (const std::runtime_error& error) {
             console.err << error.what() << '\n';
             return wrongUsage;

@@ -1,6 +1,7 @@
 #include "outputs.h"
 
 #include "gradereport/csvtable.h"
+#include "gradereport/describe.h"
 #include "gradereport/exportorigin.h"
 #include "gradereport/htmlreport.h"
 #include "gradereport/jsonlines.h"
@@ -109,10 +110,6 @@ private:
     gradereport::ExportOrigin m_origin;
 };
 
-gradereport::GradeSettings shown(const gradereport::EngineSettings& settings) {
-    return {settings.sensitivity, settings.coelution, settings.heightCriteria};
-}
-
 } // namespace
 
 std::unique_ptr<Output> formattedOutput(Format format, std::ostream& out, const Terminal& terminal) {
@@ -129,7 +126,7 @@ std::unique_ptr<Output> formattedOutput(Format format, std::ostream& out, const 
 
 std::unique_ptr<Output> reportOutput(const gradereport::EngineSettings& settings,
                                      gradereport::Language language, std::ostream& out) {
-    return std::make_unique<ReportOutput>(shown(settings), language, out);
+    return std::make_unique<ReportOutput>(gradereport::settingsOf(settings), language, out);
 }
 
 std::unique_ptr<Output> machineLearningOutput(std::ostream& out) {
@@ -137,7 +134,7 @@ std::unique_ptr<Output> machineLearningOutput(std::ostream& out) {
 }
 
 std::unique_ptr<Output> originOutput(const gradereport::EngineSettings& settings, std::ostream& out) {
-    return std::make_unique<OriginOutput>(shown(settings), out);
+    return std::make_unique<OriginOutput>(gradereport::settingsOf(settings), out);
 }
 
 } // namespace grade

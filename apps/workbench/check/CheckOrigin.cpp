@@ -2,6 +2,7 @@
 
 #include "CheckGrades.h"
 #include "OriginFile.h"
+#include "gradereport/describe.h"
 
 namespace {
 
@@ -17,7 +18,7 @@ gradereport::OriginInput inputOf(CheckedAnalysis& analysis, const gradereport::E
 gradereport::ExportOrigin CheckOrigin::of(const CheckGrades& grades, const QStringList& names) {
     const gradereport::EngineSettings settings = grades.dials().settings();
     gradereport::ExportOrigin origin;
-    origin.settings = {settings.sensitivity, settings.coelution, settings.heightCriteria};
+    origin.settings = gradereport::settingsOf(settings);
     const QVector<CheckedAnalysis*> all = names.isEmpty() ? grades.analyses() : QVector<CheckedAnalysis*>();
     for (CheckedAnalysis* const analysis : all) {
         origin.inputs.push_back(inputOf(*analysis, settings));

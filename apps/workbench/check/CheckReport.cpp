@@ -68,8 +68,7 @@ gradereport::GradeRecord recordOf(const Entry& entry, const CheckedAnalysis::Sig
 CheckReport::CheckReport(const CheckGrades& grades) {
     const gradereport::EngineSettings settings = grades.dials().settings();
     const gradereport::Language language = windowLanguage();
-    gradereport::HtmlReport report({settings.sensitivity, settings.coelution, settings.heightCriteria},
-                                   VORN_VERSION, language);
+    gradereport::HtmlReport report(gradereport::settingsOf(settings), VORN_VERSION, language);
     for (const Entry& entry : entriesOf(grades)) {
         ++m_count;
         const CheckedAnalysis::Signal signal = entry.analysis->signal();

@@ -68,10 +68,6 @@ gradereport::OriginInput inputOf(const VKObject2& object) {
     return OriginFile::input(object.displayName(), origin ? &*origin : nullptr);
 }
 
-std::string projectOf(const VKObject2& object) {
-    return object.db() == nullptr ? std::string() : object.db()->path().toStdString();
-}
-
 void tellExported(std::size_t count, const QString& folderOrFile) {
     const QString place = QDir::toNativeSeparators(folderOrFile).toHtmlEscaped();
     MessageLoggerInterface::Information(count == 1 ? Texts::tr("A table was exported to <b>%1</b>.",
@@ -82,13 +78,15 @@ void tellExported(std::size_t count, const QString& folderOrFile) {
                                                          .arg(QString::number(count), place));
 }
 
-bool exported(const VKObject2& object, const QString& path) {
+/// Writes it and gives what it rests on; nothing if it could not be written, which the log tells.
+std::optional<gradereport::ExportOrigin> exported(const VKObject2& object, const QString& path) {
     try {
-        CsvFile::write(*ObjectTable::of(object), path);
-        return true;
+        const std::unique_ptr<VKDataModel> table = ObjectTable::of(object);
+        CsvFile::write(*table, path);
+        return TableOrigin::of(*table)->origin();
     } catch (const std::exception& error) { // memory may give out as well
         VKError::dispatchError(error);
-        return false;
+        return std::nullopt;
     }
 }
 
@@ -97,7 +95,7 @@ bool exported(const VKObject2& object, const QString& path) {
 std::unique_ptr<VKDataModel> ObjectTable::of(const VKObject2& object) {
     std::unique_ptr<VKDataModel> table = contentsOf(object);
     table->setName(object.displayName(), QFileInfo(object.db()->path()).completeBaseName());
-    new TableOrigin({{}, projectOf(object), std::nullopt, {inputOf(object)}}, table.get());
+    new TableOrigin({{}, object.db()->path().toStdString(), std::nullopt, {inputOf(object)}}, table.get());
     return table;
 }
 
@@ -106,12 +104,11 @@ void ObjectTable::exportCsv(const QList<const VKObject2*>& objects, const QStrin
     gradereport::ExportOrigin origin;
     for (const VKObject2* object : objects) {
         const QString path = toFile ? folderOrFile : freePath(QDir(folderOrFile), object->displayName());
-        if (!exported(*object, path)) {
-            continue;
+        if (const auto one = exported(*object, path)) {
+            origin.project = one->project;
+            origin.inputs.push_back(one->inputs.front());
+            origin.inputs.back().table = QFileInfo(path).fileName().toStdString();
         }
-        origin.project = projectOf(*object);
-        origin.inputs.push_back(inputOf(*object));
-        origin.inputs.back().table = QFileInfo(path).fileName().toStdString();
     }
     if (origin.inputs.empty()) {
         return;

@@ -39,6 +39,10 @@ std::vector<RemovedPeak> allRemoved(const Grading& grading) {
 
 } // namespace
 
+GradeSettings settingsOf(const EngineSettings& settings) {
+    return {settings.sensitivity, settings.coelution, settings.heightCriteria};
+}
+
 GradeRecord describe(const Grading::Signal& raw, const Grading& grading, const EngineSettings& settings,
                      Curves curves, Language language) {
     GradeRecord record;
@@ -49,7 +53,7 @@ GradeRecord describe(const Grading::Signal& raw, const Grading& grading, const E
     record.quality = algo::sr_qaqc::qualityCode(*grading.chromatogram);
     record.grade = algo::sr_qaqc::qualityText(record.quality);
     record.reason = gradeReason(grading, settings, language);
-    record.settings = {settings.sensitivity, settings.coelution, settings.heightCriteria};
+    record.settings = settingsOf(settings);
     const auto& peaks = grading.chromatogram->peaks();
     std::transform(peaks.begin(), peaks.end(), std::back_inserter(record.peaks), reported);
     record.removed = allRemoved(grading);
