@@ -3,6 +3,7 @@
 #include "EmptyPage.h"
 #include "TEditor.h"
 #include "TLineIcon.h"
+#include "TToolButton.h"
 #include "TableView.h"
 #include "VKDataModel.h"
 
@@ -10,11 +11,15 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QToolButton>
 
 namespace {
 
 constexpr int closeIcon = 12;
+
+/// A tab takes a single & for the mark of a key.
+QString tabText(QString title) {
+    return title.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
 
 } // namespace
 
@@ -72,7 +77,8 @@ void Workspace::showEditor(QWidget* editor) {
         return;
     }
     if (m_tabs->indexOf(editor) < 0) {
-        m_tabs->insertTab(0, editor, editor->windowTitle()); // without a button: it is its module's to close
+        m_tabs->insertTab(0, editor,
+                          tabText(editor->windowTitle())); // without a button: it is its module's to close
         followTitle(editor);
     }
     if (auto* const plots = dynamic_cast<TechPlot::TEditor*>(editor)) {
@@ -117,7 +123,7 @@ void Workspace::addTable(std::unique_ptr<VKDataModel> model) {
 }
 
 void Workspace::addPage(QWidget* page) {
-    addCloseButton(page, m_tabs->addTab(page, page->windowTitle()));
+    addCloseButton(page, m_tabs->addTab(page, tabText(page->windowTitle())));
     followTitle(page);
     bringToFront(page);
 }
@@ -131,7 +137,7 @@ bool Workspace::showPage(QWidget* page) {
 }
 
 void Workspace::addCloseButton(QWidget* page, int index) {
-    auto* const button = new QToolButton;
+    auto* const button = new TToolButton;
     button->setAutoRaise(true);
     button->setIcon(TLineIcon::icon(QStringLiteral("close")));
     button->setIconSize(QSize(closeIcon, closeIcon));
@@ -146,8 +152,9 @@ QWidget* Workspace::currentPage() const {
 }
 
 void Workspace::followTitle(QWidget* page) {
-    connect(page, &QWidget::windowTitleChanged, m_tabs,
-            [this, page](const QString& title) { m_tabs->setTabText(m_tabs->indexOf(page), title); });
+    connect(page, &QWidget::windowTitleChanged, m_tabs, [this, page](const QString& title) {
+        m_tabs->setTabText(m_tabs->indexOf(page), tabText(title));
+    });
 }
 
 void Workspace::closeTab(int index) {

@@ -1,5 +1,6 @@
 #include "TBarCaption.h"
 
+#include "TPlainTip.h"
 #include "TavrelColors.h"
 
 #include <QPainter>
@@ -17,7 +18,7 @@ TBarCaption::TBarCaption(Qt::TextElideMode elide, QWidget* parent, Qt::Alignment
 
 void TBarCaption::setText(const QString& text) {
     m_text = text;
-    setToolTip(text.toHtmlEscaped());
+    setToolTip(TPlainTip::of(text));
     setAccessibleName(text);
     update();
 }

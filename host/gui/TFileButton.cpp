@@ -8,7 +8,7 @@
 #include <QFileInfo>
 #include <QPointer>
 
-TFileButton::TFileButton(QWidget* parent) : QToolButton(parent) {
+TFileButton::TFileButton(QWidget* parent) : TToolButton(parent) {
     setAutoRaise(true);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setIcon(TLineIcon::icon("project_open"));
@@ -35,5 +35,5 @@ void TFileButton::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
     }
-    QToolButton::changeEvent(event);
+    TToolButton::changeEvent(event);
 }

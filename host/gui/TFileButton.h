@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QToolButton>
+#include "TToolButton.h"
 
 /// Asks for files: the way for who has no file manager beside the window, or no mouse.
-class TFileButton : public QToolButton {
+class TFileButton : public TToolButton {
     Q_OBJECT
 
 public:

@@ -2,6 +2,7 @@
 
 #include "RibbonPage.h"
 #include "TLineIcon.h"
+#include "TToolButton.h"
 #include "TavrelColors.h"
 #include "VKRibbonBar.h"
 
@@ -10,7 +11,6 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 VKRibbon::VKRibbon(QWidget* parent) : QWidget(parent), m_tabs(new QTabBar), m_pages(new QStackedWidget) {
@@ -129,7 +129,7 @@ int VKRibbon::indexOf(const VKRibbonBar* bar) const {
 }
 
 void VKRibbon::addCloseButton(VKRibbonBar* bar) {
-    auto* button = new QToolButton(m_tabs);
+    auto* button = new TToolButton(m_tabs);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setIcon(TLineIcon::icon(QStringLiteral("close")));

@@ -1,8 +1,9 @@
 #include "VKRibbonGroup.h"
 
+#include "TToolButton.h"
+
 #include <QAction>
 #include <QHBoxLayout>
-#include <QToolButton>
 
 VKRibbonGroup::VKRibbonGroup(const QString& title, QWidget* parent)
     : QGroupBox(title, parent), m_row(new QHBoxLayout(this)) {
@@ -44,7 +45,7 @@ QToolButton* VKRibbonGroup::addActionButton(QAction* action, buttonStyle style) 
 }
 
 QToolButton* VKRibbonGroup::newButton(buttonStyle style) {
-    auto* button = new QToolButton(this);
+    auto* button = new TToolButton(this);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
     const bool large = style == LargeButton;

@@ -1,10 +1,10 @@
 #include "VKRibbonGroupExpandable.h"
 
 #include "TLineIcon.h"
+#include "TToolButton.h"
 #include "VKRibbonBar.h"
 
 #include <QHBoxLayout>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -46,7 +46,7 @@ VKRibbonGroupExpandable::~VKRibbonGroupExpandable() {
 }
 
 QToolButton* VKRibbonGroupExpandable::headingButton(const QString& icon) {
-    auto* button = new QToolButton(this);
+    auto* button = new TToolButton(this);
     button->setAutoRaise(true);
     button->setCheckable(true);
     button->setFocusPolicy(Qt::StrongFocus);

@@ -24,7 +24,10 @@ TEditorMatrix::TEditorMatrix(QWidget* parent)
     connect(m_bar->linkAction(), &QAction::toggled, this, &TEditorMatrix::setLinked);
     connect(m_bar->gridAction(), &QAction::toggled, this, &TEditorMatrix::setGridVisible);
     connect(m_bar->resetAction(), &QAction::triggered, this, &TEditorMatrix::resetAll);
-    connect(m_bar->exportAction(), &QAction::triggered, this, [this] { save(plots(), QString()); });
+    // Later than the click: while the dialog is open the editor may go, and with it the button that it hit.
+    connect(
+        m_bar->exportAction(), &QAction::triggered, this, [this] { save(plots(), QString()); },
+        Qt::QueuedConnection);
     retranslate();
 }
 

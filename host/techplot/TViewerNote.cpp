@@ -1,5 +1,6 @@
 #include "TViewerNote.h"
 
+#include "TPlainTip.h"
 #include "TavrelColors.h"
 
 #include <QPainter>
@@ -26,7 +27,7 @@ void TViewerNote::setText(const QString& text) {
     if (text == m_text)
         return;
     m_text = text;
-    setToolTip(text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
+    setToolTip(TPlainTip::of(text));
     setAccessibleName(text);
     setVisible(!text.isEmpty());
     updateGeometry();

@@ -1,11 +1,13 @@
 #include "TViewerTitle.h"
 
 #include "TLineIcon.h"
+#include "TPlainTip.h"
+#include "TToolButton.h"
 #include "TavrelColors.h"
+
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QToolButton>
 
 namespace TechPlot {
 
@@ -29,7 +31,7 @@ TViewerTitle::TViewerTitle(QWidget* parent) : QWidget(parent) {
 }
 
 QToolButton* TViewerTitle::addButton(const QString& icon) {
-    auto* button = new QToolButton(this);
+    auto* button = new TToolButton(this);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
     button->setIconSize(QSize(iconExtent, iconExtent));
@@ -46,7 +48,7 @@ void TViewerTitle::retranslate() {
 
 void TViewerTitle::setName(const QString& name) {
     m_name = name.simplified();
-    setToolTip(m_name.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(m_name.toHtmlEscaped()));
+    setToolTip(TPlainTip::of(m_name));
     update();
 }
 

@@ -1,5 +1,7 @@
 #include "DropDialog.h"
 
+#include "TPlainTip.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -79,10 +81,10 @@ void DropDialog::addNames(QTreeWidgetItem& row, const DropGroups::Group& group) 
         const SortedFile& file = group.files[number];
         const QFileInfo info(file.path);
         auto* const name = new QTreeWidgetItem(&row, QStringList(info.fileName()));
-        name->setToolTip(NameColumn, QDir::toNativeSeparators(file.path).toHtmlEscaped());
+        name->setToolTip(NameColumn, TPlainTip::of(QDir::toNativeSeparators(file.path)));
         const QString reason = QTextDocumentFragment::fromHtml(file.reason).toPlainText();
         name->setText(ChoiceColumn, reason);
-        name->setToolTip(ChoiceColumn, reason.toHtmlEscaped());
+        name->setToolTip(ChoiceColumn, TPlainTip::of(reason));
     }
     if (group.files.size() > mostNames) {
         const QString more = tr("and %1 more", "et %1 autres");

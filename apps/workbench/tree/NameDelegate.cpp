@@ -1,13 +1,10 @@
 #include "NameDelegate.h"
 
+#include "TPlainTip.h"
+
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QToolTip>
-
-QString NameDelegate::plainToolTip(const QString& text) {
-    // A tooltip takes what looks like markup for markup, unless all of it is.
-    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
-}
 
 bool NameDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                              const QModelIndex& index) {
@@ -20,7 +17,6 @@ bool NameDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const Q
     if (text.isEmpty() && isCut) {
         text = index.data().toString();
     }
-    const QString tip = text.isEmpty() ? QString() : plainToolTip(text);
-    QToolTip::showText(event->globalPos(), tip, view->viewport(), cell);
+    QToolTip::showText(event->globalPos(), TPlainTip::of(text), view->viewport(), cell);
     return true;
 }

@@ -12,7 +12,4 @@ public:
 
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
-
-    /// A tooltip that shows a text letter by letter, broken into lines where it is long.
-    static QString plainToolTip(const QString& text);
 };

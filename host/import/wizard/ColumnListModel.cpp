@@ -1,6 +1,7 @@
 #include "ColumnListModel.h"
 
 #include "ImportDraft.h"
+#include "TPlainTip.h"
 #include "TavrelColors.h"
 #include "WorkbookModel.h"
 
@@ -66,8 +67,9 @@ QVariant ColumnListModel::data(const QModelIndex& index, int role) const {
     const ColumnMapping& mapping = m_draft.column(row);
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return text(row, index.column());
+    case Qt::ToolTipRole:
+        return TPlainTip::of(text(row, index.column()));
     case Qt::EditRole:
         return index.column() == Target ? QVariant(mapping.target) : QVariant();
     case Qt::CheckStateRole:

@@ -1,6 +1,7 @@
 #include "SheetPreviewModel.h"
 
 #include "ImportDraft.h"
+#include "TPlainTip.h"
 #include "TavrelColors.h"
 #include "Workbook.h"
 #include "WorkbookModel.h"
@@ -49,11 +50,9 @@ QVariant SheetPreviewModel::data(const QModelIndex& index, int role) const {
     const int row = index.row();
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole: {
-        const QVariant cell = m_draft.importedCell(row, index.column());
-        return cell.userType() == QMetaType::Double ? QString::number(cell.toDouble(), 'g', shownDigits)
-                                                    : cell.toString();
-    }
+        return text(row, index.column());
+    case Qt::ToolTipRole:
+        return TPlainTip::of(text(row, index.column()));
     case Qt::TextAlignmentRole: {
         const bool isNumber = m_draft.importedCell(row, index.column()).userType() == QMetaType::Double;
         return aligned(isNumber ? Qt::AlignRight : Qt::AlignLeft);
@@ -84,7 +83,14 @@ QVariant SheetPreviewModel::headerData(int section, Qt::Orientation orientation,
     }
     const int place = m_draft.placeOf(section);
     const QString name = place < 0 ? QString() : m_draft.names().names()[place];
-    return QStringLiteral("%1\n%2").arg(WorkbookModel::columnLetters(section), name);
+    const QString text = QStringLiteral("%1\n%2").arg(WorkbookModel::columnLetters(section), name);
+    return role == Qt::ToolTipRole ? TPlainTip::of(text) : text;
+}
+
+QString SheetPreviewModel::text(int row, int column) const {
+    const QVariant cell = m_draft.importedCell(row, column);
+    return cell.userType() == QMetaType::Double ? QString::number(cell.toDouble(), 'g', shownDigits)
+                                                : cell.toString();
 }
 
 bool SheetPreviewModel::isHeader(int row) const {

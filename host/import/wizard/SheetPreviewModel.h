@@ -24,6 +24,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
+    QString text(int row, int column) const;
     bool isHeader(int row) const;
     bool isImported(int row, int column) const;
 
