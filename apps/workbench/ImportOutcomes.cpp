@@ -155,10 +155,8 @@ QString ImportOutcomes::refusalOf(const QString& path) const {
             "C'est un projet et non un fichier à importer ; ouvrez-le avec Ouvrir dans le menu Projet.");
     }
     return tr("The module <b>%1</b> doesn't take files of this kind; drop it anywhere else on the window to "
-              "be "
-              "told which one does.",
+              "be told which one does.",
               "Le module <b>%1</b> ne prend pas ce type de fichier ; déposez-le ailleurs dans la fenêtre "
-              "pour "
-              "savoir lequel le fait.")
+              "pour savoir lequel le fait.")
         .arg(m_module.toHtmlEscaped());
 }

@@ -60,8 +60,7 @@ QList<const VKObject2*> TrialGate::gradable(const QList<const VKObject2*>& objec
             MessageLoggerInterface::Warning(
                 tr("<b>%1</b> holds no curve and was left out: drop analyses on the quality check.",
                    "<b>%1</b> ne contient pas de courbe et a été laissé de côté : déposez des analyses sur "
-                   "le "
-                   "contrôle qualité.")
+                   "le contrôle qualité.")
                     .arg(object->displayName().toHtmlEscaped()));
             continue;
         }

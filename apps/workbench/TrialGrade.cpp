@@ -34,8 +34,7 @@ QString TrialGrade::refusal(const VKObject2Analysis& analysis, TechDB::ReadAhead
         return QCoreApplication::translate(
                    "TrialGrade",
                    "The analysis <b>%1</b> can't be graded and was left out: check that its curve spans a "
-                   "whole "
-                   "heating (%2).",
+                   "whole heating (%2).",
                    "L'analyse <b>%1</b> ne peut pas être évaluée et a été laissée de côté : vérifiez que sa "
                    "courbe couvre toute une chauffe (%2).")
             .arg(analysis.displayName().toHtmlEscaped(),

@@ -63,10 +63,9 @@ QAbstractItemModel* ImportTextPairs::importedModel() {
     const QString fileName = QFileInfo(m_name).fileName();
     const TextPairs::Table table = TextPairs::read(m_buffer->data(), fileName);
     for (const TextPairs::Warning& warning : table.warnings) {
-        MessageLoggerInterface::Warning(tr("File <b>%1</b>, line %2: %3", "Fichier <b>%1</b>, ligne %2 : %3")
-                                            .arg(fileName.toHtmlEscaped())
-                                            .arg(warning.line)
-                                            .arg(warning.text));
+        MessageLoggerInterface::Warning(
+            tr("File <b>%1</b>, line %2: %3", "Fichier <b>%1</b>, ligne %2 : %3")
+                .arg(fileName.toHtmlEscaped(), QString::number(warning.line), warning.text));
     }
     m_buffer.reset();
     m_model = std::make_unique<WorkbookModel>(bookOf(table), fileName);

@@ -55,8 +55,8 @@ void setUpOfOwn(SqlConnection& connection) {
 QString freeBackupPath(const QString& path, int version) {
     const QFileInfo file(path);
     const QString suffix = file.suffix().isEmpty() ? QString() : QLatin1Char('.') + file.suffix();
-    const QString base =
-        QStringLiteral("%1/%2.version-%3").arg(file.absolutePath(), file.completeBaseName()).arg(version);
+    const QString base = QStringLiteral("%1/%2.version-%3")
+                             .arg(file.absolutePath(), file.completeBaseName(), QString::number(version));
     QString candidate = base + suffix;
     for (int number = 2; QFileInfo::exists(candidate); ++number) {
         candidate = base + QLatin1Char('-') + QString::number(number) + suffix;

@@ -14,7 +14,7 @@ QString firstFree(const QString& name, const std::function<bool(const QString& c
     const QString start = base(name);
     QString free = name;
     for (int number = 2; isTaken(free); ++number) {
-        free = QStringLiteral("%1 (%2)").arg(start).arg(number);
+        free = QStringLiteral("%1 (%2)").arg(start, QString::number(number));
     }
     return free;
 }

@@ -57,7 +57,7 @@ QString freePath(const QDir& folder, const QString& name) {
     const QString base = TechPlot::TExportCommand::fileNameFor(name);
     QString path = folder.filePath(base + QStringLiteral(".csv"));
     for (int number = 2; isTaken(path); ++number) {
-        path = folder.filePath(QStringLiteral("%1 (%2).csv").arg(base).arg(number));
+        path = folder.filePath(QStringLiteral("%1 (%2).csv").arg(base, QString::number(number)));
     }
     return path;
 }

@@ -174,8 +174,7 @@ void ImportRockEvalVI::readContent() {
         logWarnings(shown(m_name), table.warnings);
         MessageLoggerInterface::Information(tr("<b>%1</b>: a table of %2 results was read.",
                                                "<b>%1</b> : un tableau de %2 résultats a été lu.")
-                                                .arg(shown(m_name))
-                                                .arg(m_results->rowCount()));
+                                                .arg(shown(m_name), QString::number(m_results->rowCount())));
         return;
     }
     const rockeval::RawSignal signal = rockeval::readSignal(viewOf(bytes), name);

@@ -55,8 +55,7 @@ QString warningOfMissing(int count, const QString& sheet) {
                "in a spreadsheet program and save it.",
                "Dans la feuille <b>%1</b>, %2 formules n'ont pas de résultat enregistré et comptent "
                "comme vides ; ouvrez le fichier dans un tableur et enregistrez-le.")
-        .arg(sheet.toHtmlEscaped())
-        .arg(count);
+        .arg(sheet.toHtmlEscaped(), QString::number(count));
 }
 
 QString warningOfOther(const QString& sheet) {

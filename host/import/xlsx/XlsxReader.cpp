@@ -94,9 +94,8 @@ private:
                                       "Dans la feuille %1, %2 formules n'ont pas de résultat enregistré et "
                                       "comptent comme vides, d'abord %3 ; ouvrez le fichier dans un tableur "
                                       "et enregistrez-le.")
-                               .arg(bold(sheet))
-                               .arg(parser.formulasWithoutResult())
-                               .arg(parser.firstOfThem().text());
+                               .arg(bold(sheet), QString::number(parser.formulasWithoutResult()),
+                                    parser.firstOfThem().text());
     }
 
     void warnOfCutTexts() {
