@@ -1,64 +1,92 @@
 #include "enginetest.h"
 
-#include <sstream>
+#include <cmath>
+#include <random>
 
 using namespace enginetest;
-using Shape = algo::chromato::SmoothedShape<double, Values>;
+using algo::filter::VectorForm;
+using Convolutor = algo::filter::FilterConvolutor<double, Values>;
+using Coelution = algo::chromato::PeakFilterCoelution<double, Values>;
+using Position = algo::chromato::PeakFilter<double, Values>::PeakPosition;
+using Custom = algo::chromato::PeakFilterCustom<double, Values, std::function<bool(Position)>>;
 
 namespace {
 
-Detector detectorOf(const SignalPointer& signal, double width, double sensibility,
-                    const Noise& noise = Noise(1, 1, 1, 0, 0)) {
-    return Detector(Chromatograph(signal->size(), noise, width, 0, 1), sensibility);
+Line identity(double xmin, double xmax) {
+    Line line(0, 0, 1, 1);
+    line.setDomain(xmin, xmax);
+    return line;
 }
 
-/// Peaks as "left top right"; a bar marks a valley that no scan found.
-std::string placed(const Chromatogram& chromatogram) {
-    std::ostringstream text;
-    for (const Peak& peak : chromatogram.peaks()) {
-        text << (peak.left().atEnd() ? "|" : "") << peak.left()->index << " " << peak.top()->index << " "
-             << peak.right()->index << (peak.right().atEnd() ? "|; " : "; ");
-    }
-    return text.str();
-}
-
-/// With a mask size of 0.1 the mask is one weight on the sample itself: the shape under test is that of `y`.
-std::string detectUnsmoothed(const Values& y) {
-    const auto signal = counted(y);
-    return placed(*detectorOf(signal, 0.2, 0.5).detect(signal, nullptr));
+/// A peak whose left valley, top and right valley have these ordinates, at the abscissae 0, 1 and 2.
+Peak peakOf(double left, double top, double right) {
+    const Iterator begin = counted({left, top, right})->begin();
+    return {begin, begin + 1, begin + 2};
 }
 
 } // namespace
 
-TEST(SmoothedShape, derivatives_divide_by_the_number_of_samples_in_the_stencils_order) {
-    const Shape shape(signalOf({0, 0.1, 0.2, 3 * 0.1, 0.4}, {3.1, 7.6, 7.0, 1.7, 4.8}));
-    EXPECT_EQ(shape.dx(), 0.08);
-    // ((4.8 - 1.7) / 0.16 - (7.6 - 3.1) / 0.16) / 0.16; taking the differences together ends in other digits.
-    EXPECT_EQ(shape.secondDerivative(2), -0x1.b580000000003p+5);
-    EXPECT_TRUE(Shape(counted({0, 1, 1, 2})).isMinimum(2)); // a shelf on a rising flank
+TEST(Convolution, takes_weights_at_the_fractional_start_and_applies_them_at_the_truncated_one) {
+    // A single 1 in the middle: the output is the mask, mirrored, and tells where each weight is applied.
+    const Convolutor ahead(counted({0, 0, 1, 0, 0}), identity(0.5, 3.4)); // 2.9 wide, so two: 0.5 and 1.5
+    EXPECT_EQ(ahead.yValues(), Values({0, 1.5, 0.5, 0, 0}));
+    EXPECT_EQ(algo::core::MemoryManager<Values>::getVector(2).data()[1], 1.5); // the mask went back
+    const auto input = signalOf({0, 1, 5}, {1, 10, 100});
+    const Convolutor wide(input, identity(-2, 2)); // the end samples stand in past either end
+    EXPECT_EQ(wide.yValues(), Values({-2 - 1 + 10, -2 - 1 + 100, -2 - 10 + 100}));
+    EXPECT_EQ(wide.xValues(), input->xValues());
+    EXPECT_EQ(wide.xmax(), 5);
 }
 
-TEST(Detector, the_first_candidate_stands_at_index_1_whatever_its_shape) {
-    EXPECT_EQ(detectUnsmoothed({1, 2, 3, 4, 5, 6, 7}), "|0 1 6|; ");
-    EXPECT_EQ(detectUnsmoothed({-1, -9, -2, -9, -1, -9, -4, -9}), "1 1 1; "); // no other below zero
-    EXPECT_EQ(detectUnsmoothed({1, 2}) + detectUnsmoothed({1}), "|0 1 1|; ");
-    const auto none = std::make_shared<Signal>(0);
-    EXPECT_RAISES(detectorOf(none, 1, 0.5).detect(none, nullptr), "Signal1D::X", "core/signal1d.h", noLastX);
+TEST(Convolution, kernels_without_a_usable_domain_are_refused) {
+    const auto input = counted(Values(5, 1.0));
+    EXPECT_RAISES(Convolutor(input, Line(0, 0, 1, 1)), "FilterConvolutor::FilterConvolutor",
+                  "filters/filterconvolutor.h",
+                  "Convolution can only be achieved with a scalar function that is restricted in X domain "
+                  "(this can be fixed easily)");
+    for (const Line& kernel : {identity(0, 10000001), identity(5, -5)}) {
+        EXPECT_RAISES(Convolutor(input, kernel), "MemoryManager::getVector", "core/memorymanager.h",
+                      "request over-sized vector");
+    }
+    EXPECT_EQ(Convolutor(input, identity(2, 2)).yValues(), Values(5, 0.0)); // no width, no weights
+    EXPECT_FALSE(Convolutor(std::make_shared<Signal>(0), identity(-2, 2)).restricted());
+    EXPECT_EQ(Smoother(std::make_shared<Signal>(0), 2, nullptr).size(), 0U);
 }
 
-TEST(Detector, neighbours_that_overlap_share_the_curvature_maximum_behind_the_first_top) {
-    // Tops 3 and 5 between the minima 2 and 6 share 4, and the last top moves onto it.
-    EXPECT_EQ(detectUnsmoothed({1, 2, 2, 3, 8, 4, 4, 5, 2}), "|0 1 2; 2 3 4; 4 4 6; ");
-    // It lies behind the second top; there is none; it lies behind the right valley, where a walk never ends.
-    EXPECT_EQ(detectUnsmoothed({4, 5, 9, 9, 8, 6, 9, 6, 1}), "|0 1 4; 4 3 5; ");
-    EXPECT_EQ(detectUnsmoothed({3, 6, 7, 8, 9, 1, 2, 4, 4}), "|0 1 8|; |8 3 5; ");
-    EXPECT_EQ(detectUnsmoothed({1, 3, 9, 6, 5, 7, 3, 2, 1}), "|0 1 5; 5 3 4; ");
-}
-
-TEST(Detector, tops_move_onto_the_first_of_the_highest_samples_around_a_maximum) {
-    EXPECT_EQ(detectUnsmoothed({6, 5, 8, 8, 8, 2, 8, 9, 2}), "1 1 1; 1 2 5; ");
-    EXPECT_EQ(detectUnsmoothed({8, 4, 3, 1, 3, 2, 6, 3, 8}), "|0 1 3; 3 3 3; 5 5 5; "); // all three in one
-    EXPECT_EQ(detectUnsmoothed({8, 9, 1, 3, 5, 8, 8, 9, 8}), "|0 1 2; 2 4 6; ");        // no maximum enclosed
+TEST(Correlation, every_vector_form_gives_the_bits_of_the_plain_one) {
+    std::mt19937 generator(7);
+    const auto numbers = [&](int count) {
+        Values values(static_cast<std::size_t>(count));
+        for (double& value : values) {
+            value = (static_cast<double>(generator()) - 2e9) * (generator() % 8 == 0 ? 1e-14 : 1e-3);
+        }
+        return values;
+    };
+    std::vector<int> sizes{955};
+    for (int n = 1; n <= 70; ++n) {
+        sizes.push_back(n);
+    }
+    const auto compare = [&](const Values& in, const Values& mask, int start) {
+        Values plain(in.size());
+        algo::filter::correlate(VectorForm::plain, mask, start, in, plain);
+        for (const auto form : {VectorForm::baseline, VectorForm::avx2, VectorForm::avx512}) {
+            Values wide(in.size(), 99.0);
+            if (algo::filter::supports(form)) {
+                algo::filter::correlate(form, mask, start, in, wide);
+                ASSERT_TRUE(sameBits(wide, plain))
+                    << "form " << int(form) << ", " << in.size() << " samples, " << mask.size()
+                    << " weights from " << start;
+            }
+        }
+    };
+    for (const int n : sizes) {
+        for (int width = 0; width < 24; ++width) {
+            const int weights = width < 21 ? width : (width == 21 ? 477 : (width == 22 ? 513 : 1100));
+            for (const int start : {-n - 1200, -n, -weights / 2, -1, 0, 3, n - 1, n + 5}) {
+                ASSERT_NO_FATAL_FAILURE(compare(numbers(n), numbers(weights), start));
+            }
+        }
+    }
 }
 
 TEST(Detector, a_noise_law_of_amplitudes_rejects_what_does_not_stand_out) {
@@ -69,11 +97,13 @@ TEST(Detector, a_noise_law_of_amplitudes_rejects_what_does_not_stand_out) {
     }
     const auto signal = counted(y);
     const auto tops = [&](double scale, double factor) {
-        Detector detector = detectorOf(signal, 10, 0.5, Noise(0, 1e9, 1, 0, scale));
+        Detector detector = detectorOf(signal, 10, Noise(0, 1e9, 1, 0, scale));
         detector.parameters.setValue("signalNoiseFactor", factor);
-        const std::string all = placed(*detector.detect(signal, nullptr));
-        return std::string(all.find(" 60 ") != std::string::npos ? "big " : "") +
-               (all.find(" 140 ") != std::string::npos ? "small" : "");
+        std::string found;
+        for (const Peak& peak : detector.detect(signal, nullptr)->peaks()) {
+            found += peak.top()->index == 60 ? "big " : (peak.top()->index == 140 ? "small" : "");
+        }
+        return found;
     };
     EXPECT_EQ(tops(0, 3), "big small");
     EXPECT_EQ(tops(0.2, 3), "big "); // 0.6 of 140 is more than 30
@@ -81,13 +111,48 @@ TEST(Detector, a_noise_law_of_amplitudes_rejects_what_does_not_stand_out) {
     EXPECT_EQ(tops(0.4, 0), "big small");
 }
 
-TEST(Detector, rounds_its_sensibility_and_ignores_the_limit_of_second_derivatives) {
+TEST(Detector, ignores_its_limit_of_second_derivatives_and_raises_without_samples) {
     const auto signal = curve({{80, 900, 12}, {120, 300, 10}});
-    Detector detector = detectorOf(signal, 20.1, 0.1234567);
-    const std::string before = placed(*detector.detect(signal, nullptr));
-    const Smoother expected(signal, 0.123457 * 20.1, nullptr);
-    EXPECT_TRUE(sameBits(detector.smoothedSignal()->yValues(), expected.yValues()));
+    Detector detector = detectorOf(signal, 20.1);
+    const std::size_t before = detector.detect(signal, nullptr)->peaks().size();
     detector.parameters.setValue("top2ndDerivLimit", 1e30);
-    EXPECT_EQ(placed(*detector.detect(signal, nullptr)), before);
-    EXPECT_NE(before.find(" 80 "), std::string::npos);
+    EXPECT_EQ(detector.detect(signal, nullptr)->peaks().size(), before);
+    const auto none = std::make_shared<Signal>(0);
+    EXPECT_RAISES(detectorOf(none, 1).detect(none, nullptr), "Signal1D::X", "core/signal1d.h", noLastX);
+}
+
+TEST(Chromatograph, replaces_a_width_of_zero) {
+    EXPECT_EQ(Chromatograph(199, Noise(1, 1, 1, 0, 0), 0, 0, 1).averagePeakWidth, 1);
+    EXPECT_EQ(Chromatograph(299, Noise(1, 1, 1, 0, 0), 0, 0, 1).averagePeakWidth, 2);
+}
+
+TEST(Coelution, the_ratio_decides_also_where_it_is_no_number) {
+    struct Case {
+        double left, top, right, ratio;
+        bool removed; // by a criterion of 1.25
+    };
+    const double nan = std::nan("");
+    const double infinite = HUGE_VAL;
+    for (const Case& c :
+         {Case{1, 6, 5, 1.25, false}, Case{5, 5.96, 1, 1.24, true}, Case{3, 4, 3, infinite, false},
+          Case{3, 2, 3, -infinite, true}, Case{3, 3, 3, nan, false}, Case{nan, 4, 3, nan, false},
+          Case{3, 4, nan, infinite, false}}) {
+        const std::vector<Peak> peaks{peakOf(c.left, c.top, c.right)};
+        const double ratio = Coelution(1.25, nullptr).ratio(peaks[0]);
+        EXPECT_TRUE(std::isnan(c.ratio) ? std::isnan(ratio) : ratio == c.ratio) << ratio;
+        EXPECT_EQ(Coelution(1.25, nullptr).isFiltered(peaks.begin()), c.removed) << ratio;
+    }
+    const auto baseline = std::make_shared<Line>(0, 0, 2, 4); // 2 at the top
+    EXPECT_EQ(Coelution(1, baseline).ratio(peakOf(3, 10, 4)), 4);
+    baseline->setDomain(1.5, 2);
+    EXPECT_EQ(Coelution(1, baseline).ratio(peakOf(3, 10, 4)), 7);
+}
+
+TEST(PeakFilter, keeps_the_source_and_needs_a_chromatogram_and_a_predicate) {
+    const auto source = std::make_shared<Chromatogram>(std::vector<Peak>(2, peakOf(0, 1, 0)), counted({7}));
+    EXPECT_EQ(Custom([](Position) { return true; }).apply(source, nullptr)->signal(), source->signal());
+    EXPECT_EQ(source->peaks().size(), 2U);
+    EXPECT_THROW(Custom(nullptr).apply(source, nullptr), std::bad_function_call);
+    EXPECT_RAISES(Custom(nullptr).apply(nullptr, nullptr), "PeakFilter::apply", "chromato/peakfilter.h",
+                  "The chromatogram is not defined");
 }

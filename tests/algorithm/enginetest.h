@@ -64,6 +64,14 @@ inline std::shared_ptr<Signal> curve(const std::vector<Bell>& bells, int n = 201
     return counted(y);
 }
 
+/// A detector with the chain's sensitivity, on peaks that are `width` samples wide.
+inline Detector detectorOf(const SignalPointer& signal, double width,
+                           const Noise& noise = Noise(1, 1, 1, 0, 0)) {
+    Chromatograph chromatograph(signal->size(), noise, width, 0, 1);
+    chromatograph.averagePeakWidth = width; // also a width of 0
+    return Detector(chromatograph, 0.5);
+}
+
 inline bool sameBits(const Values& a, const Values& b) {
     return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * 8) == 0);
 }

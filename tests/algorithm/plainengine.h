@@ -225,8 +225,8 @@ inline Stages grade(const Curve& curve) {
     }
     stages["start"] = {static_cast<double>(start), startX};
     const auto [cutX, y] = extract(rawX, curve.y, startX, 0.9 * rawX.back());
-    stages["extracted x"] = cutX;
-    stages["extracted y"] = y;
+    stages["extracted_x"] = cutX;
+    stages["extracted_y"] = y;
     const auto n = y.size();
     const double step = (cutX.back() - cutX.front()) / static_cast<double>(n);
     Values x;
@@ -235,7 +235,7 @@ inline Stages grade(const Curve& curve) {
         x.push_back(static_cast<double>(i) * step + cutX.front());
         sum = toInt32(static_cast<double>(sum) + y[i]);
     }
-    stages["even x"] = x;
+    stages["even_x"] = x;
     const auto mean =
         static_cast<std::int32_t>(static_cast<std::uint32_t>(static_cast<std::uint64_t>(sum) / n));
     stages["mean"] = {static_cast<double>(mean)};
@@ -244,14 +244,20 @@ inline Stages grade(const Curve& curve) {
     const Values smooth = smoothed(y, sensitivity * width);
     stages["smoothed"] = smooth;
     const Detector detector(x, y, smooth);
-    stages["second derivative"] = detector.second;
+    stages["second_derivative"] = detector.second;
     Values& detected = stages["detected"];
     Values& peaks = stages["peaks"];
     for (const Peak& peak : detector.peaks()) {
         const double topX = x[static_cast<std::size_t>(peak.top)];
         const double topY = y[static_cast<std::size_t>(peak.top)];
-        const Values place{double(peak.left.index),  double(peak.left.end), double(peak.top), topX, topY,
-                           double(peak.right.index), double(peak.right.end)};
+        Values place{double(peak.left.index),
+                     double(peak.top),
+                     double(peak.right.index),
+                     double(peak.left.end),
+                     double(peak.right.end),
+                     topX,
+                     topY,
+                     0};
         detected.insert(detected.end(), place.begin(), place.end());
         const double left = y[static_cast<std::size_t>(peak.left.index)];
         const double right = y[static_cast<std::size_t>(peak.right.index)];
@@ -260,8 +266,8 @@ inline Stages grade(const Curve& curve) {
         if (startX * 1.1 > topX || curve.coelution > (topY - low) / (high - low)) {
             continue;
         }
+        place.back() = static_cast<double>(mean) * curve.height > topY ? 3 : 1;
         peaks.insert(peaks.end(), place.begin(), place.end());
-        peaks.push_back(static_cast<double>(mean) * curve.height > topY ? 3 : 1);
     }
     const std::size_t count = peaks.size() / 8;
     stages["quality"] = {count == 1 ? peaks.back() : static_cast<double>(count)};

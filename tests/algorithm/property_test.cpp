@@ -3,6 +3,7 @@
 // elsewhere.
 #include "enginetest.h"
 #include "plainengine.h"
+#include "stages.h"
 
 #include <algorithm>
 #include <chrono>
@@ -99,35 +100,7 @@ private:
 };
 
 Stages engineStages(const Curve& curve) {
-    const auto result = algo::sr_qaqc::grade<double, Values>(
-        signalOf(curve.x, curve.y), {curve.sensitivity, curve.coelution, curve.height});
-    Stages stages{{"start", {double(result.start.index), result.start.x}},
-                  {"extracted x", result.extracted->xValues()},
-                  {"extracted y", result.extracted->yValues()},
-                  {"even x", result.even->xValues()},
-                  {"mean", {double(result.mean)}},
-                  {"smoothed", result.smoothed->yValues()},
-                  {"quality", {double(algo::sr_qaqc::qualityCode(*result.chromatogram))}}};
-    const algo::chromato::SmoothedShape<double, Values> shape(result.smoothed);
-    for (std::size_t i = 0; i < result.smoothed->size(); ++i) {
-        stages["second derivative"].push_back(shape.secondDerivative(static_cast<std::int32_t>(i)));
-    }
-    const auto add = [&stages](const char* stage, const std::vector<Peak>& peaks, bool withCategory) {
-        Values& numbers = stages[stage];
-        for (const Peak& peak : peaks) {
-            for (const double part :
-                 {double(peak.left()->index), double(peak.left().atEnd()), double(peak.top()->index),
-                  peak.top()->x, peak.top()->y, double(peak.right()->index), double(peak.right().atEnd())}) {
-                numbers.push_back(part);
-            }
-            if (withCategory) {
-                numbers.push_back(peak.category);
-            }
-        }
-    };
-    add("detected", result.candidates->peaks(), false);
-    add("peaks", result.chromatogram->peaks(), true);
-    return stages;
+    return stages::of(signalOf(curve.x, curve.y), {curve.sensitivity, curve.coelution, curve.height});
 }
 
 /// Values between the points, in an order that walks and jumps.
@@ -179,20 +152,15 @@ Stages gradedBy(const Curve& curve, Grade grade) {
     }
 }
 
-/// The names of the stages in which the two forms differ, with a blank behind each.
+/// The names of the plain form's stages in which the engine differs, with a blank behind each.
 std::string differences(const Stages& engine, const Stages& plain) {
+    const auto same = [](double a, double b) { return std::memcmp(&a, &b, 8) == 0 || (a != a && b != b); };
     std::string names;
-    for (const auto* const one : {&engine, &plain}) {
-        for (const auto& [name, values] : *one) {
-            const auto other = (one == &engine ? plain : engine).find(name);
-            const auto same = [](double a, double b) {
-                return std::memcmp(&a, &b, 8) == 0 || (a != a && b != b);
-            };
-            const bool isThere = other != (one == &engine ? plain : engine).end();
-            if (!isThere ||
-                !std::equal(values.begin(), values.end(), other->second.begin(), other->second.end(), same)) {
-                names += name + "; ";
-            }
+    for (const auto& [name, values] : plain) {
+        const auto other = engine.find(name);
+        if (other == engine.end() ||
+            !std::equal(values.begin(), values.end(), other->second.begin(), other->second.end(), same)) {
+            names += name + "; ";
         }
     }
     return names;
@@ -214,6 +182,24 @@ std::string answersDiffer(const Curve& curve) {
         answers(plain, name, asked, [&](double x) { return evaluator(x); });
     }
     return differences(engine, plain);
+}
+
+/// Each piece between two of the questions, in their order or against it.
+std::string extractsDiffer(const Curve& curve) {
+    const Values asked = questions(curve);
+    std::string names;
+    for (std::size_t i = 1; i < asked.size(); ++i) {
+        const auto engine = [&](const Curve& whole) {
+            const auto part = signalOf(whole.x, whole.y)->extract(asked[i - 1], asked[i]);
+            return Stages{{"x", part->xValues()}, {"y", part->yValues()}};
+        };
+        const auto plain = [&](const Curve& whole) {
+            const auto [x, y] = plainengine::extract(whole.x, whole.y, asked[i - 1], asked[i]);
+            return Stages{{"x", x}, {"y", y}};
+        };
+        names += differences(gradedBy(curve, engine), gradedBy(curve, plain));
+    }
+    return names;
 }
 
 using Property = std::string (*)(const Curve&);
@@ -290,6 +276,10 @@ TEST(Property, every_stage_of_a_grading_has_the_bits_of_the_plain_form) {
 
 TEST(Property, every_value_between_the_points_has_the_bits_of_the_plain_form) {
     holds(answersDiffer);
+}
+
+TEST(Property, every_piece_that_is_cut_out_has_the_bits_of_the_plain_form) {
+    holds(extractsDiffer);
 }
 
 TEST(Property, curves_of_chance_meet_every_grade_and_every_refusal) {

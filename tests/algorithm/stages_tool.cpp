@@ -5,8 +5,8 @@
 // abscissae and n ordinates, hexadecimal or decimal. Standard output has one line of
 // "stage=number,number, " and so on for each, all numbers hexadecimal, or "error=" and the message.
 
-#include "sourcerockqaqc/grading.h"
 #include "sourcerockqaqc/rawsignal.h"
+#include "stages.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -18,9 +18,8 @@
 
 namespace {
 
-using Values = std::vector<double>;
+using stages::Values;
 using Signal = algo::core::Signal1D<double, Values>;
-using Settings = algo::sr_qaqc::SourceRockQAQCSettings<double, Values>;
 
 /// With `strtod`, since streams don't read hexadecimal numbers.
 double next() {
@@ -35,67 +34,23 @@ std::vector<float> next(int count) {
     return values;
 }
 
-void print(const char* stage, const Values& values) {
-    std::printf(" %s=", stage);
-    for (const double value : values) {
-        std::printf("%a,", value);
-    }
-}
-
-void print(const char* stage, const std::vector<algo::chromato::Peak<double, Values>>& peaks) {
-    Values numbers;
-    for (const auto& peak : peaks) {
-        for (const int number : {peak.left()->index, peak.top()->index, peak.right()->index,
-                                 int{peak.left().atEnd()}, int{peak.right().atEnd()}}) {
-            numbers.push_back(number);
-        }
-        numbers.insert(numbers.end(), {peak.top()->x, peak.top()->y, peak.category});
-    }
-    print(stage, numbers);
-}
-
-void printStages(const std::shared_ptr<const Signal>& raw, const Settings& settings) {
-    const auto result = algo::sr_qaqc::grade<double, Values>(raw, settings);
-    const algo::chromato::SmoothedShape<double, Values> shape(result.smoothed);
-    Values second;
-    for (std::size_t i = 0; i < result.smoothed->size(); ++i) {
-        second.push_back(shape.secondDerivative(static_cast<std::int32_t>(i)));
-    }
-    Values coeluted;
-    for (const auto& removed : result.coeluted) {
-        coeluted.insert(coeluted.end(), {double(removed.peak.top()->index), removed.ratio});
-    }
-    print("raw_x", raw->xValues());
-    print("raw_y", raw->yValues());
-    print("start", Values{double(result.start.index), result.start.x});
-    print("extracted_x", result.extracted->xValues());
-    print("extracted_y", result.extracted->yValues());
-    print("even_x", result.even->xValues());
-    print("even_y", result.even->yValues());
-    print("mean", Values{double(result.mean)});
-    print("smoothed_x", result.smoothed->xValues());
-    print("smoothed", result.smoothed->yValues());
-    print("derivative_step", Values{shape.dx()});
-    print("second_derivative", second);
-    print("detected", result.candidates->peaks());
-    print("early", result.early);
-    print("coeluted", coeluted);
-    print("peaks", result.chromatogram->peaks());
-    print("quality", Values{double(algo::sr_qaqc::qualityCode(*result.chromatogram))});
-}
-
 } // namespace
 
 int main() {
     while (std::cin >> std::ws && !std::cin.eof()) {
-        const Settings settings{next(), next(), next()};
+        const algo::sr_qaqc::SourceRockQAQCSettings<double, Values> settings{next(), next(), next()};
         const int n = static_cast<int>(next());
         const auto x = next(n);
         const auto y = next(n);
         try {
-            printStages(n == 0 ? std::make_shared<const Signal>(0)
-                               : algo::sr_qaqc::rawSignal<double, Values>(x.data(), y.data(), n),
-                        settings);
+            const auto signal = n == 0 ? std::make_shared<const Signal>(0)
+                                       : algo::sr_qaqc::rawSignal<double, Values>(x.data(), y.data(), n);
+            for (const auto& [stage, numbers] : stages::of(signal, settings)) {
+                std::printf(" %s=", stage.c_str());
+                for (const double number : numbers) {
+                    std::printf("%a,", number);
+                }
+            }
         } catch (const std::length_error&) {
             std::printf("error=length");
         } catch (const std::exception& failure) {
