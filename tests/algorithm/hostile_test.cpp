@@ -35,55 +35,60 @@ std::string outcome(const SignalPointer& signal, const Settings& settings = {}) 
     }
 }
 
-} // namespace
+struct Chance {
+    double pick(const Values& values) { return values[generator() % values.size()]; }
 
-TEST(Hostile, odd_levels_axes_and_settings_give_a_grade_or_a_stated_failure) {
-    std::mt19937 generator(11);
-    const auto pick = [&](const Values& values) { return values[generator() % values.size()]; };
-    const Values odd{notANumber, infinite, -infinite, 0, 1, 3e9, -3e9, 1e308, -1e308};
-    int grades = 0;
-    for (int run = 0; run < 4000; ++run) {
+    /// Even steps from `x0` on under a level with noise on it.
+    void fill(int run, double x0, double step, double level, double noise) {
+        x.clear();
+        y.clear();
         const auto n = 1 + generator() % (run % 20 == 0 ? 300 : (run % 4 == 0 ? 3 : 40));
-        const double level = pick({0, 1, -1, 1e9, -1e9, 3e9, 1e300, -1e300, 1e-310});
-        const double noise = pick({0, 0, 0.001, 1});
-        const double step = pick({1, 1, 1, 0, -1, 1e-320, 1e30, 0.01});
-        const double x0 = pick({0, 0, 0, 100, -100, 1e15, -1e300});
-        Values x;
-        Values y;
         for (unsigned i = 0; i < n; ++i) {
             x.push_back(x0 + i * step);
             y.push_back(level * (1 + noise * static_cast<double>(generator() % 1000)));
         }
+    }
+
+    std::mt19937 generator{11};
+    Values x;
+    Values y;
+};
+
+} // namespace
+
+TEST(Hostile, odd_levels_axes_and_settings_give_a_grade_or_a_stated_failure) {
+    Chance chance;
+    const Values odd{notANumber, infinite, -infinite, 0, 1, 3e9, -3e9, 1e308, -1e308};
+    int grades = 0;
+    for (int run = 0; run < 4000; ++run) {
+        chance.fill(run, chance.pick({0, 0, 0, 100, -100, 1e15, -1e300}),
+                    chance.pick({1, 1, 1, 0, -1, 1e-320, 1e30, 0.01}),
+                    chance.pick({0, 1, -1, 1e9, -1e9, 3e9, 1e300, -1e300, 1e-310}),
+                    chance.pick({0, 0, 0.001, 1}));
         for (int i = run % 4; i > 1; --i) {
-            (run % 7 == 0 ? x : y)[generator() % n] = pick(odd);
+            (run % 7 == 0 ? chance.x : chance.y)[chance.generator() % chance.x.size()] = chance.pick(odd);
         }
         Settings settings;
         if (run % 2 == 0) {
-            settings = {pick({0.001, 0.2, 0.99, 0.05, 0, 1, notANumber, infinite}),
-                        pick({0, 2, -1, infinite, notANumber}), pick({0, 5, -1, notANumber})};
+            settings = {chance.pick({0.001, 0.2, 0.99, 0.05, 0, 1, notANumber, infinite}),
+                        chance.pick({0, 2, -1, infinite, notANumber}), chance.pick({0, 5, -1, notANumber})};
         }
-        grades += outcome(signalOf(x, y), settings) == "grade" ? 1 : 0;
+        grades += outcome(signalOf(chance.x, chance.y), settings) == "grade" ? 1 : 0;
     }
     EXPECT_GT(grades, 400);
 }
 
 TEST(Hostile, a_stored_curve_whose_useful_part_stands_is_graded_wherever_the_sliders_stand) {
-    std::mt19937 generator(12);
-    const auto pick = [&](const Values& values) { return values[generator() % values.size()]; };
-    int refused = 0;
-    int graded = 0;
+    Chance chance;
+    int counts[2] = {0, 0};
     for (int run = 0; run < 3000; ++run) {
-        const auto n = 2 + generator() % (run % 20 == 0 ? 300 : (run % 4 == 0 ? 3 : 40));
-        const double step = pick({1, 1, 1, 0.01, -1, 1e-38, 1e30});
-        const double x0 = pick({0, 0, 0, 100, -100, 1e15, -3e38});
-        const double level = pick({0, 1, -1, 3e9, 1e38, -1e38, 1e-40});
-        std::vector<float> x;
-        std::vector<float> y;
-        for (unsigned i = 0; i < n; ++i) {
-            x.push_back(static_cast<float>(std::max(-3e38, std::min(3e38, x0 + i * step))));
-            y.push_back(static_cast<float>(level * (1 + 0.001 * static_cast<double>(generator() % 1000))));
-        }
-        const auto signal = algo::sr_qaqc::rawSignal<double, Values>(x.data(), y.data(), static_cast<int>(n));
+        chance.fill(run, chance.pick({0, 0, 0, 100, -100, 1e15, -3e38}),
+                    chance.pick({1, 1, 1, 0.01, -1, 1e-38, 1e30}),
+                    chance.pick({0, 1, -1, 3e9, 1e38, -1e38, 1e-40}), 0.001);
+        const std::vector<float> x(chance.x.begin(), chance.x.end());
+        const std::vector<float> y(chance.y.begin(), chance.y.end());
+        const auto signal =
+            algo::sr_qaqc::rawSignal<double, Values>(x.data(), y.data(), static_cast<int>(x.size()));
         bool stands = true;
         try {
             algo::sr_qaqc::usefulPart<double, Values>(signal);
@@ -95,9 +100,9 @@ TEST(Hostile, a_stored_curve_whose_useful_part_stands_is_graded_wherever_the_sli
                 EXPECT_EQ(outcome(signal, {sensitivity, coelution, 5.0}) == "grade", stands) << "run " << run;
             }
         }
-        ++(stands ? graded : refused);
+        ++counts[stands ? 1 : 0];
     }
-    EXPECT_GT(std::min(graded, refused), 100);
+    EXPECT_GT(std::min(counts[0], counts[1]), 100);
 }
 
 TEST(Hostile, level_curves_have_a_grade) {

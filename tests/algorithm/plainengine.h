@@ -41,28 +41,30 @@ inline std::int64_t toIndex(double value) {
     return value > -1 && value < 1e15 ? static_cast<std::int64_t>(value) : -1;
 }
 
+inline double at(const Values& values, std::int64_t i) {
+    return values[static_cast<std::size_t>(i)];
+}
+
 inline bool isLowest(const Values& y, std::int64_t i) {
-    const auto n = static_cast<std::int64_t>(y.size());
-    const auto at = [&y](std::int64_t k) { return y[static_cast<std::size_t>(k)]; };
-    return i > 0 && i < n - 1 && at(i + 1) > at(i) && at(i - 1) >= at(i);
+    return i > 0 && i + 1 < static_cast<std::int64_t>(y.size()) && at(y, i + 1) > at(y, i) &&
+           at(y, i - 1) >= at(y, i);
 }
 
 inline std::pair<Values, Values> extract(const Values& x, const Values& y, double x1, double x2) {
     const auto n = static_cast<std::int64_t>(x.size());
-    const auto at = [&x](std::int64_t k) { return x[static_cast<std::size_t>(k)]; };
-    const double step = (at(n - 1) - at(0)) / static_cast<double>(n);
-    std::int64_t a = std::max<std::int64_t>(0, toInt32((x1 - at(0)) / step));
-    while (a < n - 1 && at(a + 1) < x1) {
+    const double step = (at(x, n - 1) - at(x, 0)) / static_cast<double>(n);
+    std::int64_t a = std::max<std::int64_t>(0, toInt32((x1 - at(x, 0)) / step));
+    while (a < n - 1 && at(x, a + 1) < x1) {
         ++a;
     }
     a = std::min(a, n - 1); // where the estimate led beyond the end
-    while (a > -1 && x1 < at(a)) {
+    while (a > -1 && x1 < at(x, a)) {
         --a;
     }
     a = std::max<std::int64_t>(0, a);
-    const std::int64_t estimate = toIndex((x2 - at(0)) / step);
+    const std::int64_t estimate = toIndex((x2 - at(x, 0)) / step);
     std::int64_t b = estimate < 0 ? n - 1 : std::min(estimate, n - 1);
-    while (b < n - 1 && at(b) < x2) {
+    while (b < n - 1 && at(x, b) < x2) {
         ++b;
     }
     if (b <= a) {
@@ -87,7 +89,7 @@ inline Values smoothed(const Values& y, double sigma) {
             const double weight =
                 std::exp(place * place / (sigma * sigma * -2.0)) * (1.0 / (std::sqrt(pi + pi) * sigma));
             const std::int64_t k = std::min(std::max<std::int64_t>(0, start + j + i), n - 1);
-            sum += weight * y[static_cast<std::size_t>(k)];
+            sum += weight * at(y, k);
         }
         result.push_back(sum);
     }
@@ -113,8 +115,8 @@ public:
         const double dx = (x.back() - x.front()) / static_cast<double>(m_n);
         for (std::int64_t j = 0; j < m_n; ++j) {
             const bool inside = j >= 2 && j <= m_n - 3;
-            second.push_back(inside ? ((smooth_(j + 2) - smooth_(j + 1)) / (2 * dx) -
-                                       (smooth_(j - 1) - smooth_(j - 2)) / (2 * dx)) /
+            second.push_back(inside ? ((at(m_smooth, j + 2) - at(m_smooth, j + 1)) / (2 * dx) -
+                                       (at(m_smooth, j - 1) - at(m_smooth, j - 2)) / (2 * dx)) /
                                           (2 * dx)
                                     : 0);
         }
@@ -139,19 +141,16 @@ public:
 private:
     using Test = std::function<bool(std::int64_t)>;
 
-    double smooth_(std::int64_t i) const { return m_smooth[static_cast<std::size_t>(i)]; }
-    double raw_(std::int64_t i) const { return m_raw[static_cast<std::size_t>(i)]; }
-    double second_(std::int64_t i) const { return second[static_cast<std::size_t>(i)]; }
-    bool isBent(std::int64_t i) const { return i >= 3 && i <= m_n - 4 && smooth_(i) > 0; }
+    bool isBent(std::int64_t i) const { return i >= 3 && i <= m_n - 4 && at(m_smooth, i) > 0; }
 
     Test isTop() const {
         return [this](std::int64_t i) {
-            return isBent(i) && second_(i + 1) > second_(i) && second_(i - 1) > second_(i);
+            return isBent(i) && at(second, i + 1) > at(second, i) && at(second, i - 1) > at(second, i);
         };
     }
     Test isValley() const {
         return [this](std::int64_t i) {
-            return isBent(i) && second_(i) > second_(i + 1) && second_(i) > second_(i - 1);
+            return isBent(i) && at(second, i) > at(second, i + 1) && at(second, i) > at(second, i - 1);
         };
     }
 
@@ -191,12 +190,15 @@ private:
         if (peak.left.end || peak.right.end) {
             return;
         }
+        const auto isMaximum = [this](std::int64_t i) {
+            return i > 0 && i < m_n - 1 && at(m_smooth, i) > at(m_smooth, i + 1) &&
+                   at(m_smooth, i) >= at(m_smooth, i - 1);
+        };
         bool rises = false;
         std::int64_t best = peak.left.index;
         for (std::int64_t i = peak.left.index; i < peak.right.index; ++i) {
-            rises = rises ||
-                    (i > 0 && i < m_n - 1 && smooth_(i) > smooth_(i + 1) && smooth_(i) >= smooth_(i - 1));
-            best = raw_(i) > raw_(best) ? i : best;
+            rises = rises || isMaximum(i);
+            best = at(m_raw, i) > at(m_raw, best) ? i : best;
         }
         peak.top = rises ? best : peak.top;
     }
@@ -248,19 +250,16 @@ inline Stages grade(const Curve& curve) {
     Values& detected = stages["detected"];
     Values& peaks = stages["peaks"];
     for (const Peak& peak : detector.peaks()) {
-        const double topX = x[static_cast<std::size_t>(peak.top)];
-        const double topY = y[static_cast<std::size_t>(peak.top)];
-        Values place{double(peak.left.index),
-                     double(peak.top),
-                     double(peak.right.index),
-                     double(peak.left.end),
-                     double(peak.right.end),
-                     topX,
-                     topY,
-                     0};
+        const double topX = at(x, peak.top);
+        const double topY = at(y, peak.top);
+        Values place;
+        for (const std::int64_t index : {peak.left.index, peak.top, peak.right.index}) {
+            place.push_back(static_cast<double>(index));
+        }
+        place.insert(place.end(), {double(peak.left.end), double(peak.right.end), topX, topY, 0});
         detected.insert(detected.end(), place.begin(), place.end());
-        const double left = y[static_cast<std::size_t>(peak.left.index)];
-        const double right = y[static_cast<std::size_t>(peak.right.index)];
+        const double left = at(y, peak.left.index);
+        const double right = at(y, peak.right.index);
         const double low = right < left ? right : left;
         const double high = right < left ? left : right;
         if (startX * 1.1 > topX || curve.coelution > (topY - low) / (high - low)) {

@@ -229,15 +229,7 @@ Curve shrunk(Curve curve, Property differs) {
                 break;
             }
         }
-        Curve smaller = curve;
-        smaller.x[i] = static_cast<double>(i);
-        take(smaller);
     }
-    Curve usual = curve;
-    usual.sensitivity = 0.5;
-    usual.coelution = 1.25;
-    usual.height = 2;
-    take(usual);
     return curve;
 }
 
@@ -293,18 +285,4 @@ TEST(Property, curves_of_chance_meet_every_grade_and_every_refusal) {
                                        "refused: index out of", "refused: length"}) {
         EXPECT_GT(met[expected], 3) << expected;
     }
-}
-
-TEST(Property, what_differs_is_shrunk_to_what_matters) {
-    Curve curve;
-    for (int i = 0; i < 100; ++i) {
-        curve.x.push_back(i * 0.5);
-        curve.y.push_back(i == 70 ? 42.25 : i % 7);
-    }
-    const Curve small = shrunk(curve, [](const Curve& some) {
-        return std::string(std::count(some.y.begin(), some.y.end(), 42.25) > 0 && some.y.size() > 2 ? "x"
-                                                                                                    : "");
-    });
-    EXPECT_EQ(small.y.size(), 3U);
-    EXPECT_EQ(std::count(small.y.begin(), small.y.end(), 0.0), 2);
 }

@@ -18,17 +18,6 @@ std::string written(const Signal& signal) {
 
 } // namespace
 
-TEST(Signal, an_index_out_of_range_is_told_as_an_unsigned_number) {
-    const auto signal = counted({5, 6});
-    EXPECT_RAISES(
-        signal->X(static_cast<std::uint64_t>(-1)), "Signal1D::X", plain,
-        "try to get X with an index out of signal's data range (size=2, index=18446744073709551615)");
-    EXPECT_RAISES(signal->Y(2), "Signal1D::Y", plain,
-                  "try to get Y with an index out of signal's data range (size=2, index=2)");
-    EXPECT_RAISES(signal->at(7), "Signal1D::at", plain,
-                  "try to get an index out of signal's data range; i=7; size=2");
-}
-
 TEST(SignalEvaluate, a_step_below_the_first_point_wraps) {
     // Other samples under an old search state: the walk starts on the first one, already at x.
     for (const int order : {1, 2}) {
@@ -40,7 +29,18 @@ TEST(SignalEvaluate, a_step_below_the_first_point_wraps) {
     }
 }
 
-TEST(SignalEvaluate, what_has_no_answer_is_told_with_its_numbers) {
+TEST(Signal, what_has_no_answer_is_told_with_its_numbers) {
+    const auto two = counted({5, 6});
+    EXPECT_RAISES(
+        two->X(static_cast<std::uint64_t>(-1)), "Signal1D::X", plain,
+        "try to get X with an index out of signal's data range (size=2, index=18446744073709551615)");
+    EXPECT_RAISES(two->Y(2), "Signal1D::Y", plain,
+                  "try to get Y with an index out of signal's data range (size=2, index=2)");
+    EXPECT_RAISES(two->at(7), "Signal1D::at", plain,
+                  "try to get an index out of signal's data range; i=7; size=2");
+    EXPECT_RAISES(two->extract(5, 5), "Signal1D::X", plain, noLastX);
+    EXPECT_RAISES(Signal(0).extract(0, 1), "Signal1D::extract", plain,
+                  "Try to extract a signal from a 0 point signal");
     const auto signal = counted(cubes);
     signal->setOutOfDomainPolicy(0);
     for (const double outside : {-1.0, 9.0}) { // the last abscissa stands twice
@@ -63,16 +63,6 @@ TEST(SignalEvaluate, what_has_no_answer_is_told_with_its_numbers) {
     one->setOutOfDomainPolicy(2);
     EXPECT_RAISES(one->interpolateQuadratic(5, 0), "Signal1D::interpolateQuadratic", plain,
                   "problem in interpolateQuadratic: index = 1; size = 1; x = 5");
-}
-
-TEST(SignalExtract, drops_the_point_at_the_upper_bound_and_raises_where_nothing_is_left) {
-    const auto signal = counted({0, 1, 2, 3, 4, 5, 6, 7, 8, 9});
-    EXPECT_EQ(signal->extract(2, 5)->xValues(), Values({2, 3, 4}));
-    EXPECT_EQ(signal->extract(0, -5)->size(), 9U); // below zero, the estimate wraps to the end
-    EXPECT_THROW(signal->extract(7, 5), std::length_error);
-    EXPECT_RAISES(signal->extract(5, 5), "Signal1D::X", plain, noLastX);
-    EXPECT_RAISES(Signal(0).extract(0, 1), "Signal1D::extract", plain,
-                  "Try to extract a signal from a 0 point signal");
 }
 
 TEST(SignalExtract, gives_a_plain_clamping_signal_of_second_order_with_a_longer_name) {

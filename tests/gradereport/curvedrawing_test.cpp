@@ -1,8 +1,6 @@
 #include "htmlcheck.h"
 #include "samplerecord.h"
 
-#include "gradereport/htmlreport.h"
-
 #include <algorithm>
 #include <cctype>
 #include <cmath>
@@ -23,12 +21,9 @@ struct Point {
 using Line = std::vector<Point>;
 
 std::string cardOf(const GradeRecord& record) {
-    HtmlReport report(record.settings, "1.2");
-    report.add(record);
-    std::ostringstream out;
-    report.write(out);
-    checkedTags(out.str());
-    return between(out.str(), "<article", "</article>").at(0);
+    const std::string page = pageOf({record});
+    checkedTags(page);
+    return between(page, "<article", "</article>").at(0);
 }
 
 /// Follows path data of M, l, m and h as a browser does: a sign or a second point begins the next number.

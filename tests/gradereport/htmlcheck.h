@@ -1,11 +1,27 @@
 #pragma once
 
+#include "gradereport/htmlreport.h"
+
 #include <gtest/gtest.h>
 
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
+
+inline std::string pageOf(const std::vector<gradereport::GradeRecord>& records,
+                          const std::vector<gradereport::FailureRecord>& failures = {},
+                          gradereport::Language language = gradereport::Language::english) {
+    gradereport::HtmlReport report({}, "1.2", language);
+    for (const auto& record : records)
+        report.add(record);
+    for (const auto& failure : failures)
+        report.addFailure(failure);
+    std::ostringstream out;
+    report.write(out);
+    return out.str();
+}
 
 /// Text of the page from each `begin` to the `end` behind it, without both.
 inline std::vector<std::string> between(const std::string& page, const std::string& begin,

@@ -1,22 +1,49 @@
+#include "gradereport/shortestnumber.h"
 #include "gradereport/utf8text.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <utility>
-#include <vector>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <random>
 
 using namespace gradereport;
 
-TEST(Utf8Text, well_formed_text_of_every_length_stays) {
-    const std::string text("a\u00e9\u20ac\U0001F600\0end", 14);
-    EXPECT_EQ(validUtf8(text), text);
-    EXPECT_EQ(validUtf8("\u007F\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0010FFFF"),
-              "\u007F\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0010FFFF");
+TEST(NumberText, shortest_reads_back_to_the_same_double_in_the_fewest_digits) {
+    std::mt19937_64 random(20240611);
+    for (int i = 0; i < 10000; ++i) {
+        const std::uint64_t bits = random();
+        double value = 0.0;
+        std::memcpy(&value, &bits, sizeof value);
+        if (std::isfinite(value)) {
+            const double back = std::strtod(shortestNumber(value).c_str(), nullptr);
+            ASSERT_EQ(std::memcmp(&back, &value, sizeof value), 0) << shortestNumber(value);
+        }
+    }
+    EXPECT_EQ(shortestNumber(-0.0), "-0");
+    EXPECT_EQ(shortestNumber(static_cast<double>(0.1F)), "0.10000000149011612");
+    EXPECT_EQ(shortestNumber(std::numeric_limits<double>::denorm_min()), "5e-324");
+}
+
+TEST(NumberText, fixed_rounds_drops_the_sign_of_zero_and_stays_short) {
+    EXPECT_EQ(fixedNumber(719.25, 1), "719.2");
+    EXPECT_EQ(fixedNumber(-0.04, 1), "0.0");
+    EXPECT_EQ(fixedNumber(-0.06, 1), "-0.1");
+    EXPECT_EQ(fixedNumber(999999999.0, 1), "999999999.0");
+    EXPECT_EQ(fixedNumber(-std::numeric_limits<double>::max(), 1), "-1.798e+308");
+    EXPECT_EQ(fixedNumber(std::nan(""), 1), "\u2013");
+    EXPECT_EQ(fixedNumber(std::numeric_limits<double>::infinity(), 1), "\u2013");
 }
 
 TEST(Utf8Text, each_byte_that_belongs_to_no_sequence_becomes_one_replacement) {
-    const std::vector<std::pair<std::string, std::string>> cases{
+    for (const std::string& text :
+         {std::string("a\u00e9\u20ac\U0001F600\0end", 14),
+          std::string("\u007F\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0010FFFF")})
+        EXPECT_EQ(validUtf8(text), text);
+    const std::pair<const char*, const char*> cases[] = {
         {"a\xff\xfeg", "a\uFFFD\uFFFDg"},
         {"\xe2\x82", "\uFFFD\uFFFD"},   // cut sequence
         {"\xe2\x82x", "\uFFFD\uFFFDx"}, // the letter behind it stays
@@ -36,14 +63,11 @@ TEST(Utf8Text, visible_text_has_no_effect_on_a_terminal_or_a_line) {
     EXPECT_EQ(visibleText("\u00e9 \u6f22"), "\u00e9 \u6f22");
 }
 
-TEST(Utf8Text, width_counts_columns_not_bytes) {
+TEST(Utf8Text, shortening_keeps_whole_letters_and_counts_columns_not_bytes) {
     EXPECT_EQ(displayWidth("a\u00e9\u20ac"), 3U);
     EXPECT_EQ(displayWidth("e\u0301"), 1U);
     EXPECT_EQ(displayWidth("\u6f22\u5b57"), 4U);
     EXPECT_EQ(displayWidth("\xff\xff"), 2U);
-}
-
-TEST(Utf8Text, shortening_keeps_whole_letters_and_the_width) {
     EXPECT_EQ(shortenedInMiddle("abcdefgh", 8), "abcdefgh");
     EXPECT_EQ(shortenedInMiddle("abcdefghi", 8), "abcd\u2026ghi");
     EXPECT_EQ(shortenedInMiddle("\u6f22\u6f22\u6f22\u6f22\u6f22", 6), "\u6f22\u2026\u6f22");
