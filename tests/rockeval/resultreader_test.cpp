@@ -1,15 +1,9 @@
-#include "expectwarnings.h"
+#include "readertest.h"
 
-#include "rockeval/readerror.h"
 #include "rockeval/resultreader.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 
-using rockeval::ReadError;
 using rockeval::ResultTable;
 
 ResultTable read(std::string_view text) {
@@ -74,18 +68,29 @@ TEST(ReadResults, text_comes_out_as_utf8_whatever_the_file_holds) {
 
 TEST(ReadResults, what_is_no_result_file_is_refused) {
     using namespace std::string_literals;
-    for (const std::string& text : {""s, "\n\n"s, "a=1\nb=2\n"s, "[A]\na=\0"s, "\xFF\xFE[\0A\0]\0"s})
-        EXPECT_THROW(read(text), ReadError);
-
+    for (const auto& [text, line] :
+         {std::pair{""s, "1"}, std::pair{"\n\n"s, "2"}, std::pair{"a=1\nb=2\n"s, "2"},
+          std::pair{"[A]\na=\0"s, "2"}, std::pair{"\xFF\xFE[\0A\0]\0"s, "1"}}) {
+        const std::string& bytes = text;
+        expectRefusal([&bytes] { return read(bytes); }, "core.R00, line " + std::string(line), "");
+    }
     std::string many = "[A]\n";
     for (std::size_t i = 1; i < rockeval::maxResultLines; ++i)
         many += "x\n";
     EXPECT_EQ(read(many).warnings.size(), 101U);
     many += "\n\n[]\n";
-    try {
-        read(many);
-        FAIL() << "not refused";
-    } catch (const ReadError& error) {
-        EXPECT_EQ(error.line(), rockeval::maxResultLines + 3);
-    }
+    expectRefusal([&] { return read(many); },
+                  "core.R00, line " + std::to_string(rockeval::maxResultLines + 3), "lines");
+}
+
+TEST(French, a_remark_keeps_what_stood_in_the_file_and_is_not_taken_in_half) {
+    using rockeval::inFrench;
+    EXPECT_EQ(inFrench("line 6: missing seconds: 8 between 0 s and 9 s"),
+              "ligne 6 : secondes manquantes : 8 entre 0 s et 9 s");
+    EXPECT_EQ(
+        inFrench("row left out: \"x between y\" in the column FID is not a number that can be stored"),
+        "ligne laissée de côté : \"x between y\", dans la colonne FID, n'est pas un nombre qui peut être "
+        "enregistré");
+    for (const char* const other : {"line x: missing", "line ", "a text of nobody", "missing seconds: 3"})
+        EXPECT_EQ(inFrench(other), other);
 }
