@@ -342,26 +342,10 @@ private:
     }
     double quadratic(double x, std::size_t i) const {
         const std::size_t n = m_x.size();
-        const std::size_t j = i + 1;
         if (n == 2) {
             return line(x, 0, 1);
         }
-        if (j == 0) {
-            return parabola(x, 0);
-        }
-        if (j < n - 1) {
-            return parabola(x, i);
-        }
-        if (j == n - 1 && j > 1) {
-            return parabola(x, i - 1);
-        }
-        if (j == n && j >= 3) {
-            return parabola(x, i - 2);
-        }
-        if (j >= n) {
-            return m_y.back();
-        }
-        throw Refused{"problem in interpolateQuadratic"};
+        return n < 3 ? m_y.back() : parabola(x, std::min(i, n - 3));
     }
 
     Values m_x;

@@ -1,8 +1,7 @@
 #include "enginetest.h"
+#include "temporaryfolder.h"
 
 #include <cmath>
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 
 using namespace enginetest;
@@ -99,20 +98,16 @@ TEST(Export, rows_of_curves_without_a_range_end) {
 }
 
 TEST(Export, the_file_holds_the_last_run_only) {
-    const auto folder = std::filesystem::temp_directory_path() / "vorn_export_test";
+    const TemporaryFolder folder;
     const auto before = std::filesystem::current_path();
-    std::filesystem::create_directories(folder);
-    std::filesystem::current_path(folder);
+    std::filesystem::current_path(folder.path());
     Manager manager(std::make_shared<Settings>());
     manager.addAnalysis(good, "a");
     manager.exportData();
     Manager(nullptr).exportData();
-    std::ostringstream text;
-    text << std::ifstream("dataSR.txt").rdbuf();
-    EXPECT_EQ(text.str(), "X=[]\ny=[]\n");
+    EXPECT_EQ(contentOf("dataSR.txt"), "X=[]\ny=[]\n");
     std::filesystem::remove("dataSR.txt");
     std::filesystem::create_directory("dataSR.txt"); // nothing can be written there, and nothing is said
     EXPECT_NO_THROW(manager.exportData());
     std::filesystem::current_path(before);
-    std::filesystem::remove_all(folder);
 }
