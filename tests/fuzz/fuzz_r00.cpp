@@ -1,16 +1,8 @@
+#include "promises.h"
 #include "rockeval/readerror.h"
 #include "rockeval/resultreader.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-
 namespace {
-
-void require(bool condition) {
-    if (!condition)
-        std::abort();
-}
 
 bool isUtf8(const std::string& text) {
     // Decoding what is UTF-8 already changes nothing: the reader itself is the judge of a value read again.

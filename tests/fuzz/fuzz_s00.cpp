@@ -1,19 +1,7 @@
+#include "promises.h"
 #include "rockeval/channels.h"
 #include "rockeval/readerror.h"
 #include "rockeval/signalreader.h"
-
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-
-namespace {
-
-void require(bool condition) {
-    if (!condition)
-        std::abort();
-}
-
-} // namespace
 
 // Whatever the bytes are, a curve comes out as promised or a ReadError.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

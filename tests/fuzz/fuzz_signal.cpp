@@ -1,9 +1,7 @@
 #include "core/signal1disosampling.h"
+#include "promises.h"
 #include "sourcerockqaqc/grading.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <exception>
 #include <memory>
 #include <sstream>
@@ -15,11 +13,6 @@ namespace {
 using Values = std::vector<double>;
 using Signal = algo::core::Signal1D<double, Values>;
 using IsoSignal = algo::core::Signal1DIsoSampling<double, Values>;
-
-void require(bool condition) {
-    if (!condition)
-        std::abort();
-}
 
 // Any failure of the engine is an answer; only what is no exception ends the run.
 template <class Action>

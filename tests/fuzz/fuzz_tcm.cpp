@@ -1,11 +1,8 @@
 #include "TcmFile.h"
 #include "VKError.h"
+#include "promises.h"
 
 #include <QCryptographicHash>
-
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 
 namespace {
 
@@ -13,10 +10,8 @@ void decode(const QByteArray& bytes) {
     try {
         const TcmFile file = TcmFile::decoded(bytes, "fuzz.tcm");
         const TcmFile again = TcmFile::decoded(file.encoded(), "again.tcm");
-        if (8 * file.curve().dataSize() >= bytes.size() || !file.curve().whyUnusable().isEmpty() ||
-            !again.curve().equals(file.curve())) {
-            std::abort();
-        }
+        require(8 * file.curve().dataSize() < bytes.size() && file.curve().whyUnusable().isEmpty() &&
+                again.curve().equals(file.curve()));
     } catch (const VKError&) {
         return; // refused
     }
