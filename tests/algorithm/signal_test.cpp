@@ -78,7 +78,9 @@ TEST(SignalExtract, gives_a_plain_clamping_signal_of_second_order_with_a_longer_
 TEST(IsoSignal, evaluate_raises_where_a_plain_signal_clamps) {
     EXPECT_RAISES(IsoSignal(counted(cubes), 4), "Signal1DIsoSampling::Signal1DIsoSampling", iso,
                   " n should be the same");
-    const IsoSignal even(0, 1, 4, [](std::size_t i) { return cubes[i]; });
+    const auto cube = [](std::size_t i) { return cubes[i]; };
+    EXPECT_EQ(IsoSignal(0, 1, 3, cube).evaluate(2.5), 13.75); // u + 3u(u - 1), u = 2.5
+    const IsoSignal even(0, 1, 4, cube);
     EXPECT_EQ(even.evaluate(1.5), 3);
     EXPECT_EQ(even.evaluate(3.5), 41);    // from the last three points: 1 + 7u + 6u(u - 1), u = 2.5
     EXPECT_EQ(even.evaluate(-0.5), 1.75); // cut to index 0 and extrapolated: u + 3u(u - 1), u = -0.5

@@ -198,6 +198,8 @@ TEST(Describe, the_record_repeats_what_the_engine_decided) {
     const auto record = describe(*curves[3], grading, EngineSettings(), Curves::included);
     EXPECT_EQ(record.points, 1200U);
     EXPECT_EQ(record.gradedPoints, grading.even->size());
+    EXPECT_EQ(record.start, grading.start.x);
+    EXPECT_EQ(record.mean, grading.mean);
     ASSERT_EQ(record.peaks.size(), grading.chromatogram->peaks().size());
     EXPECT_EQ(record.removed.size() + record.peaks.size(), grading.candidates->peaks().size());
     EXPECT_EQ(grading.even->Y(record.peaks.at(0).top), record.peaks[0].y);

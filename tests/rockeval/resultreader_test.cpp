@@ -57,12 +57,13 @@ TEST(ReadResults, oddities_are_kept_and_warned_about) {
 TEST(ReadResults, text_comes_out_as_utf8_whatever_the_file_holds) {
     const ResultTable table =
         read("\xEF\xBB\xBF[R\xE9s]\na=caf\xE9 \x80\x81\nb=caf\xC3\xA9 \xF0\x9F\x9B\xA2\n"
-             "c=\xC0\xAF\nd=\xED\xA0\x80\ne=\xC3");
+             "c=\xC0\xAF\nd=\xED\xA0\x80\ne=\xC3\nf=\xE0\x9F\xBF");
     const auto text = [&table](const char* key) { return value(table, "R\xC3\xA9s", key); };
     EXPECT_EQ(text("a"), "caf\xC3\xA9 \xE2\x82\xAC\xEF\xBF\xBD");
     EXPECT_EQ(text("b"), "caf\xC3\xA9 \xF0\x9F\x9B\xA2");
     // Neither an overlong form nor a surrogate nor a sequence cut off is UTF-8.
     EXPECT_EQ(text("c") + text("d") + text("e"), "\xC3\x80\xC2\xAF\xC3\xAD\xC2\xA0\xE2\x82\xAC\xC3\x83");
+    EXPECT_EQ(text("f"), "\xC3\xA0\xC5\xB8\xC2\xBF");
     EXPECT_TRUE(table.warnings.empty());
 }
 
