@@ -6,8 +6,8 @@ using namespace enginetest;
 
 namespace {
 
-constexpr const char* plain = "core/signal1d.h";
-constexpr const char* iso = "core/signal1disosampling.h";
+constexpr const char* header = "core/signal1d.h";
+constexpr const char* isoHeader = "core/signal1disosampling.h";
 const Values cubes{0, 1, 8, 27, 64}; // no parabola fits them, so a value tells which three points it is from
 
 std::string written(const Signal& signal) {
@@ -32,36 +32,36 @@ TEST(SignalEvaluate, a_step_below_the_first_point_wraps) {
 TEST(Signal, what_has_no_answer_is_told_with_its_numbers) {
     const auto two = counted({5, 6});
     EXPECT_RAISES(
-        two->X(static_cast<std::uint64_t>(-1)), "Signal1D::X", plain,
+        two->X(static_cast<std::uint64_t>(-1)), "Signal1D::X", header,
         "try to get X with an index out of signal's data range (size=2, index=18446744073709551615)");
-    EXPECT_RAISES(two->Y(2), "Signal1D::Y", plain,
+    EXPECT_RAISES(two->Y(2), "Signal1D::Y", header,
                   "try to get Y with an index out of signal's data range (size=2, index=2)");
-    EXPECT_RAISES(two->at(7), "Signal1D::at", plain,
+    EXPECT_RAISES(two->at(7), "Signal1D::at", header,
                   "try to get an index out of signal's data range; i=7; size=2");
-    EXPECT_RAISES(two->extract(5, 5), "Signal1D::X", plain, noLastX);
-    EXPECT_RAISES(Signal(0).extract(0, 1), "Signal1D::extract", plain,
+    EXPECT_RAISES(two->extract(5, 5), "Signal1D::X", header, noLastX);
+    EXPECT_RAISES(Signal(0).extract(0, 1), "Signal1D::extract", header,
                   "Try to extract a signal from a 0 point signal");
     const auto signal = counted(cubes);
     signal->setOutOfDomainPolicy(0);
     for (const double outside : {-1.0, 9.0}) { // the last abscissa stands twice
-        EXPECT_RAISES(signal->evaluate(outside), "Signal1D::evaluate", plain,
+        EXPECT_RAISES(signal->evaluate(outside), "Signal1D::evaluate", header,
                       "x value out of bounds. Signal's range = [0:4]; x=4");
     }
     EXPECT_EQ(signal->evaluate(4), 64);
-    EXPECT_RAISES(signalOf({0, 1}, {0, 1}, 3)->evaluate(0.5), "Signal1D::evaluate", plain,
+    EXPECT_RAISES(signalOf({0, 1}, {0, 1}, 3)->evaluate(0.5), "Signal1D::evaluate", header,
                   "interpolation order can only be 1 or 2 (actual=3)");
     EXPECT_RAISES(signalOf({0, 1, 1, 3}, cubes, 1)->interpolateLinear(2.5, 1), "Signal1D::interpolateLinear",
-                  plain, "problem in interpolateLinear: index = 1; size = 4; x = 2.5");
+                  header, "problem in interpolateLinear: index = 1; size = 4; x = 2.5");
     for (const Values& x : {Values{0, 0, 1}, Values{0, 1, 0}, Values{1, 0, 0}}) {
         EXPECT_RAISES(signalOf(x, {5, 5, 5})->interpolateQuadratic(0.5, 0), "Math::interpolateQuadratic",
                       "core/algomath.h", "interpolateQuadratic needs 3 distinct points");
     }
     const auto one = counted({8});
     one->setOutOfDomainPolicy(0);
-    EXPECT_RAISES(one->interpolateQuadratic(5, 0), "Signal1D::interpolateQuadratic", plain,
+    EXPECT_RAISES(one->interpolateQuadratic(5, 0), "Signal1D::interpolateQuadratic", header,
                   "Can not extrapolate (index = 1; size = 1)");
     one->setOutOfDomainPolicy(2);
-    EXPECT_RAISES(one->interpolateQuadratic(5, 0), "Signal1D::interpolateQuadratic", plain,
+    EXPECT_RAISES(one->interpolateQuadratic(5, 0), "Signal1D::interpolateQuadratic", header,
                   "problem in interpolateQuadratic: index = 1; size = 1; x = 5");
 }
 
@@ -76,7 +76,7 @@ TEST(SignalExtract, gives_a_plain_clamping_signal_of_second_order_with_a_longer_
 }
 
 TEST(IsoSignal, evaluate_raises_where_a_plain_signal_clamps) {
-    EXPECT_RAISES(IsoSignal(counted(cubes), 4), "Signal1DIsoSampling::Signal1DIsoSampling", iso,
+    EXPECT_RAISES(IsoSignal(counted(cubes), 4), "Signal1DIsoSampling::Signal1DIsoSampling", isoHeader,
                   " n should be the same");
     const auto cube = [](std::size_t i) { return cubes[i]; };
     EXPECT_EQ(IsoSignal(0, 1, 3, cube).evaluate(2.5), 13.75); // u + 3u(u - 1), u = 2.5
@@ -84,9 +84,9 @@ TEST(IsoSignal, evaluate_raises_where_a_plain_signal_clamps) {
     EXPECT_EQ(even.evaluate(1.5), 3);
     EXPECT_EQ(even.evaluate(3.5), 41);    // from the last three points: 1 + 7u + 6u(u - 1), u = 2.5
     EXPECT_EQ(even.evaluate(-0.5), 1.75); // cut to index 0 and extrapolated: u + 3u(u - 1), u = -0.5
-    EXPECT_RAISES(even.evaluate(4), "Signal1DIsoSampling::evaluate", iso,
+    EXPECT_RAISES(even.evaluate(4), "Signal1DIsoSampling::evaluate", isoHeader,
                   "can not extrapolate at X=4: index=4, size=4");
-    EXPECT_RAISES(even.evaluate(-1), "Signal1DIsoSampling::evaluate", iso,
+    EXPECT_RAISES(even.evaluate(-1), "Signal1DIsoSampling::evaluate", isoHeader,
                   "can not extrapolate at X=-1: index=18446744073709551615, size=4");
     EXPECT_EQ(even(-1) + even(9), 27); // the guarded call never gets there
 }
