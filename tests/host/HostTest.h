@@ -25,6 +25,9 @@ inline testing::AssertionResult says(const std::string& text, const std::string&
     return testing::AssertionFailure() << "\"" << text << "\" doesn't say \"" << part << "\"";
 }
 
+/// Fails the test unless the statement is refused with a text that holds `part`.
+#define EXPECT_REFUSED(statement, part) EXPECT_TRUE(says(failure([&] { statement; }), part))
+
 /// Makes a file and gives its path back.
 inline QString fileWith(const QString& path, const QByteArray& bytes) {
     QFile file(path);

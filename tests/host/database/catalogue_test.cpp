@@ -166,7 +166,7 @@ TEST_F(Catalogue, files_of_another_kind_or_a_newer_version_are_refused_and_not_t
     EXPECT_EQ(working.addEIC("none", none), nullptr);
     EXPECT_TRUE(says(errors(), "is not a catalogue"));
     EXPECT_NE(failure([&] { TechDB::TDatabase::open(file()); }), "");
-    write(path("file"), "x");
+    fileWith(path("file"), "x");
     manager.setPlace(path("file/p.vorncatalogue"));
     EXPECT_EQ(working.findEIC("none"), nullptr);
     EXPECT_TRUE(says(errors(), "can't be created"));

@@ -1,19 +1,16 @@
 #pragma once
 
+#include "HostTest.h"
 #include "ServerDatabase.h"
 #include "TDatabase.h"
-#include "VKError.h"
 #include "VKObject2Signal.h"
 #include "VKObject2Well.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <memory>
 
@@ -30,16 +27,6 @@ protected:
     void reopen() {
         database.reset();
         database = TechDB::TDatabase::open(place());
-    }
-
-    static QByteArray bytesOf(const QString& file) {
-        QFile opened(file);
-        return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray("unreadable");
-    }
-    static void write(const QString& file, const QByteArray& bytes) {
-        QFile opened(file);
-        ASSERT_TRUE(opened.open(QIODevice::WriteOnly));
-        ASSERT_EQ(opened.write(bytes), bytes.size());
     }
 
     /// Runs statements through a connection without foreign keys, as another program would, and gives the
@@ -71,17 +58,6 @@ protected:
         return result;
     }
 
-    /// The text of the failure, empty if there was none.
-    template <typename Operation>
-    static std::string failure(const Operation& operation) {
-        try {
-            operation();
-        } catch (const VKError& error) {
-            return error.text().toStdString();
-        }
-        return {};
-    }
-
     static void notShown(qint64 /*done*/, qint64 /*total*/) {}
 
     static TAnalysisData ramp(int points = 3) {
@@ -100,6 +76,29 @@ protected:
         return names;
     }
 
+    /// All that a person could see of a project.
+    static QStringList contentOf(const TechDB::TDatabase& project) {
+        QStringList lines{project.projectId()};
+        for (const auto& analysis : project.analyses()) {
+            lines << QString::number(analysis.key) + analysis.name + analysis.analysisType +
+                         analysis.created.toString(Qt::ISODateWithMs);
+            if (const auto origin = project.origin(analysis.key)) {
+                lines << origin->file << origin->sha256 << origin->warnings;
+            }
+            lines << (project.curve(analysis.key).equals(ramp(analysis.pointCount)) ? "ramp" : "no ramp");
+        }
+        for (const auto& well : project.datasets()) {
+            for (const auto& sample : project.samples(well.key)) {
+                const TechDB::SampleTable table = project.sampleTable(sample.key);
+                lines << well.name + sample.name + table.rowNames.join('|') + table.columnNames.join('|');
+                for (const QVariant& cell : table.cells) {
+                    lines.last() += QLatin1String(cell.typeName()) + cell.toString();
+                }
+            }
+        }
+        return lines;
+    }
+
     static QString joined(const TechDB::ListedNames& list) {
         QStringList names;
         for (const TechDB::ListedName& one : list) {
@@ -113,11 +112,3 @@ protected:
         ServerDatabase::isThere() ? std::make_unique<ServerDatabase>() : nullptr;
     std::unique_ptr<TechDB::TDatabase> database;
 };
-
-/// Succeeds if `text` holds `part`.
-inline testing::AssertionResult says(const std::string& text, const std::string& part) {
-    if (text.find(part) != std::string::npos) {
-        return testing::AssertionSuccess();
-    }
-    return testing::AssertionFailure() << "\"" << text << "\" doesn't say \"" << part << "\"";
-}

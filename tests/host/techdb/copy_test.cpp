@@ -1,9 +1,5 @@
 #include "ProjectFixture.h"
 
-#include <QProcess>
-
-#include <gtest/gtest.h>
-
 using TechDB::TDatabase;
 
 namespace {
@@ -27,28 +23,6 @@ protected:
         }
     }
 
-    /// All that a person could see of a project.
-    static QStringList contentOf(const TDatabase& project) {
-        QStringList lines{project.projectId()};
-        for (const auto& analysis : project.analyses()) {
-            lines << QString::number(analysis.key) + analysis.name + analysis.analysisType +
-                         analysis.created.toString(Qt::ISODateWithMs);
-            if (const auto origin = project.origin(analysis.key)) {
-                lines << origin->file << origin->sha256 << origin->warnings;
-            }
-            EXPECT_TRUE(project.curve(analysis.key).equals(ramp(analysis.pointCount)));
-        }
-        for (const auto& well : project.datasets()) {
-            for (const auto& sample : project.samples(well.key)) {
-                const TechDB::SampleTable table = project.sampleTable(sample.key);
-                lines << well.name + sample.name + table.rowNames.join('|') + table.columnNames.join('|');
-                for (const QVariant& cell : table.cells) {
-                    lines.last() += QLatin1String(cell.typeName()) + cell.toString();
-                }
-            }
-        }
-        return lines;
-    }
     QString copyPlace() const { return other ? other->address() : path("copy.vornproj"); }
 
     std::unique_ptr<ServerDatabase> other = server ? std::make_unique<ServerDatabase>() : nullptr;
@@ -68,11 +42,12 @@ TEST_F(Copies, hold_everything_under_the_same_keys_and_take_new_objects) {
     EXPECT_EQ(steps, 2 * (249 + 3 + 75));
     const auto copy = TDatabase::open(copyPlace());
     const QStringList content = contentOf(*database);
+    EXPECT_FALSE(content.contains("no ramp"));
     EXPECT_EQ(contentOf(*copy), content);
     const QString back = path("back.vornproj");
     copy->backupTo(back, notShown);
     EXPECT_EQ(contentOf(*TDatabase::open(back)), content) << "there and back";
-    EXPECT_EQ(failure([&] { copy->addAnalysis("one more", {}, ramp()); }), "");
+    copy->addAnalysis("one more", {}, ramp());
     EXPECT_TRUE(copy->problems().isEmpty());
     EXPECT_EQ(filesInFolder().filter(".part"), QStringList());
 }
@@ -87,18 +62,17 @@ TEST_F(Copies, that_break_off_are_no_project_and_go_on_where_they_were) {
         };
     };
     EXPECT_THROW(database->copyTo(copyPlace(), stopsAt(300)), Stop);
-    EXPECT_TRUE(says(failure([&] { TDatabase::open(other ? copyPlace() : copyPlace() + ".part"); }),
-                     other ? "holds no project" : "is not a project"));
+    EXPECT_REFUSED(TDatabase::open(other ? copyPlace() : copyPlace() + ".part"),
+                   other ? "holds no project" : "is not a project");
     database->renameAnalysis(database->getAnalysis("analysis 3")->key(), "renamed meanwhile");
     database->removeAnalysis(database->getAnalysis("analysis 200")->key());
     const auto foreign = TDatabase::create(path("foreign.vornproj"));
-    EXPECT_TRUE(says(failure([&] { foreign->copyTo(copyPlace(), notShown); }), "unfinished copy of another"));
+    EXPECT_REFUSED(foreign->copyTo(copyPlace(), notShown), "unfinished copy of another");
     EXPECT_THROW(database->copyTo(copyPlace(), stopsAt(400)), Stop);
     database->copyTo(copyPlace(), notShown);
     EXPECT_EQ(contentOf(*TDatabase::open(copyPlace())), contentOf(*database));
     if (other) {
-        EXPECT_TRUE(
-            says(failure([&] { database->copyTo(copyPlace(), notShown); }), "holds a project already"));
+        EXPECT_REFUSED(database->copyTo(copyPlace(), notShown), "holds a project already");
     }
 }
 

@@ -1,11 +1,9 @@
+#include "Dragging.h"
 #include "ProjectFixture.h"
 
 #include "VKListViewSignal.h"
 #include "VKObject2Decoder.h"
 
-#include <QCoreApplication>
-#include <QDropEvent>
-#include <QMimeData>
 #include <QTest>
 
 using TechDB::TDatabase;
@@ -32,14 +30,6 @@ protected:
     const VKObject2Analysis* b = database->addAnalysis("b", {}, ramp());
     const VKObject2Well* well = database->addWell("d");
 };
-
-template <typename Event>
-bool deliver(QTreeWidget& list, const QMimeData& data) {
-    Event event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    event.ignore();
-    QCoreApplication::sendEvent(list.viewport(), &event);
-    return event.isAccepted();
-}
 
 QStringList shown(const QTreeWidget& list) {
     QStringList texts;
@@ -116,18 +106,18 @@ TEST_F(Drags, every_flipped_byte_gives_known_objects_or_none) {
 TEST_F(Drags, an_automatic_list_takes_what_it_can_show_and_another_leaves_it_to_its_listeners) {
     const auto drag = dragOf(bytesOf({well, b, a->TIC(), a}));
     VKListViewSignal list(nullptr, true);
-    EXPECT_TRUE(deliver<QDragEnterEvent>(list, *drag));
-    EXPECT_TRUE(deliver<QDragMoveEvent>(list, *drag));
-    deliver<QDropEvent>(list, *drag);
+    EXPECT_TRUE(deliver<QDragEnterEvent>(list.viewport(), *drag));
+    EXPECT_TRUE(deliver<QDragMoveEvent>(list.viewport(), *drag));
+    deliver<QDropEvent>(list.viewport(), *drag);
     EXPECT_EQ(shown(list), QStringList({"b", "a", "a"})) << "a dataset has no signal";
     QMimeData text;
     text.setText("b");
-    EXPECT_FALSE(deliver<QDragEnterEvent>(list, text));
+    EXPECT_FALSE(deliver<QDragEnterEvent>(list.viewport(), text));
 
     VKListViewSignal passive(nullptr, true);
     passive.setAutoMode(false);
-    EXPECT_FALSE(deliver<QDragEnterEvent>(passive, *drag));
-    deliver<QDropEvent>(passive, *drag);
+    EXPECT_FALSE(deliver<QDragEnterEvent>(passive.viewport(), *drag));
+    deliver<QDropEvent>(passive.viewport(), *drag);
     EXPECT_EQ(passive.topLevelItemCount(), 0);
     passive.addSignal(b);
     passive.addSignal(b->TIC());

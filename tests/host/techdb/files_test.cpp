@@ -11,25 +11,7 @@ using TechDB::TDatabase;
 
 namespace {
 
-class Files : public ProjectTest {
-protected:
-    /// All there is, as a window would read it.
-    static QStringList contentOf(const QString& file) {
-        const std::unique_ptr<TDatabase> opened = TDatabase::open(file);
-        QStringList all;
-        for (const TechDB::AnalysisInfo& info : opened->analyses()) {
-            all << info.name << QString::number(opened->curve(info.key).y().back());
-        }
-        for (const TechDB::DatasetInfo& info : opened->datasets()) {
-            for (const TechDB::SampleInfo& sample : opened->samples(info.key)) {
-                const TechDB::SampleTable table = opened->sampleTable(sample.key);
-                all << info.name << sample.name << table.rowNames << table.columnNames
-                    << table.cell(0, 0).toString();
-            }
-        }
-        return all;
-    }
-};
+using Files = ProjectTest;
 
 /// Takes from this process, while it lives, the right to write everywhere.
 class OrdinaryUser {
@@ -51,10 +33,10 @@ private:
 } // namespace
 
 TEST_F(Files, a_new_project_never_takes_the_place_of_a_file) {
-    write(path("notes.txt"), "mine");
-    EXPECT_TRUE(says(failure([&] { TDatabase::create(path("notes.txt")); }), "can't be created"));
+    fileWith(path("notes.txt"), "mine");
+    EXPECT_REFUSED(TDatabase::create(path("notes.txt")), "can't be created");
     EXPECT_EQ(bytesOf(path("notes.txt")), "mine");
-    EXPECT_TRUE(says(failure([&] { TDatabase::create(path("nowhere/x.vornproj")); }), "can't be created"));
+    EXPECT_REFUSED(TDatabase::create(path("nowhere/x.vornproj")), "can't be created");
     const QString odd = path("odd #1 ?mode=ro & 100%41 é'\".vornproj");
     TDatabase::create(odd)->addAnalysis("A", {}, ramp());
     EXPECT_TRUE(QFileInfo::exists(odd));
@@ -63,8 +45,8 @@ TEST_F(Files, a_new_project_never_takes_the_place_of_a_file) {
 
 TEST_F(Files, what_is_no_project_is_refused_and_left_alone) {
     database.reset();
-    write(path("text.vornproj"), QByteArray(5000, 'x'));
-    write(path("empty.vornproj"), {});
+    fileWith(path("text.vornproj"), QByteArray(5000, 'x'));
+    fileWith(path("empty.vornproj"), {});
     sql(path("foreign.vornproj"), {"CREATE TABLE addresses (name TEXT)"});
     sql(path("alike.vornproj"),
         {"CREATE TABLE project (only_row, schema_version)", "INSERT INTO project VALUES (1, 'x')"});
@@ -72,11 +54,11 @@ TEST_F(Files, what_is_no_project_is_refused_and_left_alone) {
     for (const char* file : {"text", "empty", "foreign", "alike"}) {
         const QString name = path(QString(file) + ".vornproj");
         const QByteArray bytes = bytesOf(name);
-        EXPECT_TRUE(says(failure([&] { TDatabase::open(name); }), "is not a project")) << file;
+        EXPECT_REFUSED(TDatabase::open(name), "is not a project") << file;
         EXPECT_EQ(bytesOf(name), bytes) << file;
     }
-    EXPECT_TRUE(says(failure([&] { TDatabase::open(path("missing.vornproj")); }), "can't be opened"));
-    EXPECT_TRUE(says(failure([&] { TDatabase::open(folder.path()); }), "can't be opened"));
+    EXPECT_REFUSED(TDatabase::open(path("missing.vornproj")), "can't be opened");
+    EXPECT_REFUSED(TDatabase::open(folder.path()), "can't be opened");
     EXPECT_EQ(filesInFolder(), before);
 }
 
@@ -86,14 +68,14 @@ TEST_F(Files, a_project_that_may_not_be_written_is_refused_with_advice) {
     QFile::setPermissions(path(), QFile::Permissions(0x6666));
     {
         const OrdinaryUser user;
-        EXPECT_TRUE(says(failure([&] { TDatabase::open(path()); }), "copy it to a folder of yours"));
-        EXPECT_TRUE(says(failure([&] { TDatabase::create(path("new.vornproj")); }), "can't be created"));
+        EXPECT_REFUSED(TDatabase::open(path()), "copy it to a folder of yours");
+        EXPECT_REFUSED(TDatabase::create(path("new.vornproj")), "can't be created");
     }
     QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
     QFile::setPermissions(path(), QFile::Permissions(0x4444));
     {
         const OrdinaryUser user;
-        EXPECT_TRUE(says(failure([&] { TDatabase::open(path()); }), "can't be written"));
+        EXPECT_REFUSED(TDatabase::open(path()), "can't be written");
     }
     EXPECT_EQ(filesInFolder(), QStringList("lab.vornproj"));
 }
@@ -106,11 +88,11 @@ TEST_F(Files, no_damage_to_a_file_does_more_than_a_refusal) {
     database.reset();
     const QByteArray intact = bytesOf(path());
     const QString damaged = path("damaged.vornproj");
-    const QStringList content = contentOf(path());
+    const QStringList content = contentOf(*TDatabase::open(path()));
     QStringList found;
     const auto refusal = [&](const QByteArray& bytes) {
-        write(damaged, bytes);
-        const std::string text = failure([&] { found = contentOf(damaged); });
+        fileWith(damaged, bytes);
+        const std::string text = failure([&] { found = contentOf(*TDatabase::open(damaged)); });
         QFile::remove(damaged + "-wal");
         QFile::remove(damaged + "-shm");
         return text;
@@ -143,13 +125,13 @@ TEST_F(Files, problems_tells_what_is_wrong_with_a_file) {
 TEST_F(Files, a_backup_is_complete_and_takes_its_place_only_then) {
     database->addAnalysis("A", {}, ramp());
     const QString copy = path("copy é.vornproj");
-    write(copy, "old");
+    fileWith(copy, "old");
     {
         const TechDB::Transaction transaction(*database);
-        EXPECT_TRUE(says(failure([&] { database->backupTo(copy, notShown); }), "is being written"));
+        EXPECT_REFUSED(database->backupTo(copy, notShown), "is being written");
     }
-    EXPECT_TRUE(says(failure([&] { database->backupTo(path(), notShown); }), "the project itself"));
-    EXPECT_TRUE(says(failure([&] { database->backupTo(path("nowhere/c"), notShown); }), "was not written"));
+    EXPECT_REFUSED(database->backupTo(path(), notShown), "the project itself");
+    EXPECT_REFUSED(database->backupTo(path("nowhere/c"), notShown), "was not written");
     EXPECT_EQ(bytesOf(copy), "old");
 
     database->backupTo(copy, notShown);
@@ -158,7 +140,7 @@ TEST_F(Files, a_backup_is_complete_and_takes_its_place_only_then) {
         EXPECT_EQ(opened->projectId(), database->projectId());
         EXPECT_EQ(opened->curve(opened->getAnalysis("A")->key()).y(), ramp().y());
         opened->addAnalysis("only in the copy", {}, ramp());
-        EXPECT_TRUE(says(failure([&] { database->backupTo(copy, notShown); }), "open in a window"));
+        EXPECT_REFUSED(database->backupTo(copy, notShown), "open in a window");
     }
     EXPECT_EQ(QFile::permissions(copy), QFile::permissions(path()));
     EXPECT_EQ(analysisNames(), QStringList("A"));

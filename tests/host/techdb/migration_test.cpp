@@ -60,7 +60,7 @@ TEST_F(Migration, an_older_project_is_copied_then_brought_forward_step_by_step) 
 }
 
 TEST_F(Migration, a_step_that_fails_leaves_the_project_as_it_was_and_names_the_copy) {
-    write(path("lab.version-3.vornproj"), "somebody else's");
+    fileWith(path("lab.version-3.vornproj"), "somebody else's");
     const ProjectSchema broken{
         {}, {{}, {}, {"ALTER TABLE analyses ADD COLUMN note TEXT", "UPDATE absent SET x = 1"}}};
     const std::string text = failure([&] { TDatabase::open(path(), broken); });

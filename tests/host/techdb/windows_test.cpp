@@ -58,7 +58,7 @@ TEST_F(Windows, two_of_them_on_one_file_see_what_the_other_committed) {
         transaction.commit();
     }
     EXPECT_EQ(other->analyses().size(), 2);
-    EXPECT_TRUE(says(failure([&] { other->addAnalysis("B", {}, ramp()); }), "<b>B</b> is already stored"));
+    EXPECT_REFUSED(other->addAnalysis("B", {}, ramp()), "<b>B</b> is already stored");
     other->removeAnalysis(key);
     EXPECT_EQ(sql({"SELECT count(*) FROM curves"}).toInt(), 1) << "foreign keys hold here too";
     EXPECT_EQ(analysisNames(), QStringList("B"));
@@ -75,8 +75,7 @@ TEST_F(Windows, a_writer_waits_for_another_one_and_gives_up_with_clear_words) {
 
     const std::unique_ptr<TDatabase> busy = TDatabase::open(place());
     const TechDB::Transaction held(*busy);
-    EXPECT_TRUE(
-        says(failure([&] { database->addAnalysis("late", {}, ramp()); }), "written by another window"));
+    EXPECT_REFUSED(database->addAnalysis("late", {}, ramp()), "written by another window");
     EXPECT_EQ(analysisNames(), QStringList("ours"));
 }
 
