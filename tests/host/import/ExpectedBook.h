@@ -1,11 +1,9 @@
 #pragma once
 
+#include "HostTest.h"
 #include "Workbook.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -14,9 +12,7 @@
 namespace ExpectedBook {
 
 inline QByteArray content(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    return file.readAll();
+    return bytesOf(path);
 }
 
 /// All with this suffix.
@@ -32,6 +28,8 @@ inline QJsonArray toJson(const Workbook::Book& book) {
         for (const auto& cells : sheet.rows) {
             QJsonArray row;
             for (const QVariant& cell : cells) {
+                EXPECT_TRUE(!cell.isValid() || cell.userType() == QMetaType::Double ||
+                            (cell.userType() == QMetaType::QString && !cell.toString().isNull()));
                 row.append(cell.isValid() ? QJsonValue::fromVariant(cell) : QJsonValue());
             }
             rows.append(row);

@@ -46,48 +46,22 @@ inline QString contentOf(const QAbstractItemModel& table) {
 /// Properties of both kinds of tables, few enough to know by heart.
 inline QVector<TKnownProperty> someProperties() {
     using Family = TKnownProperty::Family;
-    return {{"toc",
-             "TOC",
-             "Total organic carbon",
-             "Carbone organique total",
-             "wt%",
-             {"%", "% pds"},
-             {"cot"},
-             Family::SourceRock},
-            {"tmax",
-             "Tmax",
-             "Temperature of the S2 maximum",
-             "Température du maximum de S2",
-             "°C",
-             {},
-             {},
-             Family::SourceRock},
-            {"s1",
-             "S1",
-             "Free hydrocarbons",
-             "Hydrocarbures libres",
-             "mg HC/g rock",
-             {"mg/g"},
-             {},
-             Family::SourceRock},
-            {"gas.c1", "C1", "Methane", "Méthane", "mol%", {"%"}, {}, Family::Gas},
-            {"gas.d13c.c1",
-             "δ13C C1",
-             "Carbon isotopes of methane",
-             "Isotopes du carbone du méthane",
-             "‰ VPDB",
-             {},
-             {},
-             Family::Gas},
-            {"gas.dd.c1",
-             "δD C1",
-             "Hydrogen isotopes of methane",
-             "Isotopes de l'hydrogène du méthane",
-             "‰ VSMOW",
-             {},
-             {},
-             Family::Gas},
-            {"gas.c6+", "C6+", "Hexanes and heavier", "Hexanes et plus lourds", "mol%", {}, {}, Family::Gas}};
+    const auto gas = [](const char* key, const char* label, const char* english, const char* french,
+                        const char* unit, const QStringList& units = {}) {
+        return TKnownProperty{key, label, english, french, unit, units, {}, Family::Gas};
+    };
+    TKnownProperty toc =
+        gas("toc", "TOC", "Total organic carbon", "Carbone organique total", "wt%", {"%", "% pds"});
+    toc.aliases = QStringList("cot");
+    return {toc,
+            gas("tmax", "Tmax", "Temperature of the S2 maximum", "Température du maximum de S2", "°C"),
+            gas("s1", "S1", "Free hydrocarbons", "Hydrocarbures libres", "mg HC/g rock", {"mg/g"}),
+            gas("gas.c1", "C1", "Methane", "Méthane", "mol%", {"%"}),
+            gas("gas.d13c.c1", "δ13C C1", "Carbon isotopes of methane", "Isotopes du carbone du méthane",
+                "‰ VPDB"),
+            gas("gas.dd.c1", "δD C1", "Hydrogen isotopes of methane", "Isotopes de l'hydrogène du méthane",
+                "‰ VSMOW"),
+            gas("gas.c6+", "C6+", "Hexanes and heavier", "Hexanes et plus lourds", "mol%")};
 }
 
 /// A strategy that offers these, and is else like those of the application.

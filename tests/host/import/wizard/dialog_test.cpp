@@ -23,6 +23,7 @@
 namespace {
 
 using Deed = std::function<void(QDialog&)>;
+using Custom = AsciiImportWizardStrategyCustom;
 
 class French : public QTranslator {
 public:
@@ -71,9 +72,8 @@ protected:
 } // namespace
 
 TEST_F(Wizard, imports_a_clean_table_at_a_press_of_enter) {
-    EXPECT_EQ(
-        run(new AsciiImportWizardStrategyCustom, [](QDialog& dialog) { press(dialog, Qt::Key_Return); }),
-        "Sample|TOC (%)|Colour\nA|#1.5#|red\nB|<1|blue");
+    EXPECT_EQ(run(new Custom, [](QDialog& dialog) { press(dialog, Qt::Key_Return); }),
+              "Sample|TOC (%)|Colour\nA|#1.5#|red\nB|<1|blue");
     EXPECT_EQ(wizard.createModel()->headerData(0, Qt::Vertical, 5), "Sample");
     EXPECT_NE(qobject_cast<VKDataModelGeneric*>(wizard.createModel()), nullptr);
     EXPECT_EQ(run(new AsciiImportWizardStrategySR, [](QDialog& dialog) { press(dialog, Qt::Key_Return); }),
@@ -82,24 +82,22 @@ TEST_F(Wizard, imports_a_clean_table_at_a_press_of_enter) {
 
 TEST_F(Wizard, cancelling_imports_and_remembers_nothing) {
     const auto cancel = [](QDialog& dialog) { dialog.findChild<QPushButton*>("cancel")->click(); };
-    EXPECT_EQ(run(new AsciiImportWizardStrategyCustom, cancel), "nothing");
-    EXPECT_EQ(
-        run(new AsciiImportWizardStrategyCustom, [](QDialog& dialog) { press(dialog, Qt::Key_Escape); }),
-        "nothing");
-    EXPECT_EQ(run(new AsciiImportWizardStrategyCustom, [](QDialog& dialog) { dialog.close(); }), "nothing");
+    EXPECT_EQ(run(new Custom, cancel), "nothing");
+    EXPECT_EQ(run(new Custom, [](QDialog& dialog) { press(dialog, Qt::Key_Escape); }), "nothing");
+    EXPECT_EQ(run(new Custom, [](QDialog& dialog) { dialog.close(); }), "nothing");
     EXPECT_TRUE(QSettings().allKeys().isEmpty());
-    wizard.initExec(nullptr, new AsciiImportWizardStrategyCustom);
+    wizard.initExec(nullptr, new Custom);
     EXPECT_EQ(wizard.createModel(), nullptr);
 }
 
 TEST_F(Wizard, owns_strategy_and_model_until_the_next_run) {
-    const QPointer<AsciiImportWizardStrategy> first = new AsciiImportWizardStrategyCustom;
+    const QPointer<AsciiImportWizardStrategy> first = new Custom;
     const auto accept = [](QDialog& dialog) { dialog.accept(); };
     run(first, accept);
     const QPointer<QAbstractItemModel> model = wizard.createModel();
     EXPECT_EQ(wizard.createModel(), model);
     EXPECT_FALSE(first.isNull());
-    run(new AsciiImportWizardStrategyCustom, accept);
+    run(new Custom, accept);
     EXPECT_TRUE(first.isNull());
     EXPECT_TRUE(model.isNull());
 }
@@ -110,7 +108,7 @@ TEST_F(Wizard, ends_with_the_window_it_belongs_to) {
     window->activateWindow();
     QCoreApplication::processEvents();
     ASSERT_EQ(QApplication::activeWindow(), window);
-    EXPECT_EQ(run(new AsciiImportWizardStrategyCustom,
+    EXPECT_EQ(run(new Custom,
                   [window](QDialog& dialog) {
                       EXPECT_EQ(dialog.parentWidget(), window);
                       delete window;
@@ -155,12 +153,12 @@ TEST_F(Wizard, shows_what_is_chosen) {
         EXPECT_EQ(columns->model()->index(1, 3).data(), "Not imported");
         press(dialog, Qt::Key_Return);
     };
-    EXPECT_EQ(run(new AsciiImportWizardStrategyCustom, deed), "Sample|Colour\nB|blue")
+    EXPECT_EQ(run(new Custom, deed), "Sample|Colour\nB|blue")
         << "other rows are proposed anew, so the first column names the samples again";
 }
 
 TEST_F(Wizard, chooses_among_the_sheets_of_a_book) {
-    EXPECT_EQ(run(new AsciiImportWizardStrategyCustom,
+    EXPECT_EQ(run(new Custom,
                   [](QDialog& dialog) {
                       EXPECT_EQ(dialog.windowTitle(), "Import of analyses.xlsx");
                       dialog.findChild<QComboBox*>("sheet")->setCurrentIndex(1);
@@ -178,10 +176,10 @@ TEST_F(Wizard, fits_a_small_screen_in_both_languages) {
         EXPECT_LE(dialog.height(), 700);
         dialog.reject();
     };
-    run(new AsciiImportWizardStrategyCustom, check);
+    run(new Custom, check);
     French french;
     QCoreApplication::installTranslator(&french);
-    run(new AsciiImportWizardStrategyCustom, [&](QDialog& dialog) {
+    run(new Custom, [&](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QPushButton*>("import")->text(), "Importer");
         check(dialog);
     });

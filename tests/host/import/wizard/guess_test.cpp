@@ -33,10 +33,10 @@ std::vector<bool> commasOf(const Workbook::Sheet& sheet) {
     return ColumnContent::decimalCommas(ColumnContent::read(sheet, MappedTable::rows(sheet, {})));
 }
 
-int identifierAmong(const QStringList& names) {
-    std::vector<ColumnHeader> headers(static_cast<std::size_t>(names.size()));
-    for (int i = 0; i < names.size(); ++i) {
-        headers[static_cast<std::size_t>(i)].levels = QStringList(names[i]);
+int identifierAmong(const QString& names) {
+    std::vector<ColumnHeader> headers;
+    for (const QString& name : names.split('|', Qt::SkipEmptyParts)) {
+        headers.emplace_back().levels = QStringList(name);
     }
     return IdentifierGuess::of(headers);
 }
@@ -44,19 +44,17 @@ int identifierAmong(const QStringList& names) {
 } // namespace
 
 TEST(NumberText, reads_numbers_under_one_decimal_mark_and_leaves_other_texts_alone) {
-    const QVector<QPair<QString, double>> commas = {
-        {"12,5", 12.5},      {" -0,5 ", -0.5},      {",5", 0.5},           {"1 234,5", 1234.5},
-        {"1.234,5", 1234.5}, {"1,5E-3", 0.0015},    {"\u22123,25", -3.25}, {"1\u202F234\u202F567", 1234567},
-        {"12", 12},          {"1.234.567", 1234567}};
-    for (const auto& [text, value] : commas) {
-        EXPECT_EQ(NumberText::value(text, true).value_or(-9999), value) << qPrintable(text);
+    const QString commas = "12,5=12.5| -0,5 =-0.5|,5=0.5|1 234,5=1234.5|1.234,5=1234.5|1,5E-3=0.0015|"
+                           "\u22123,25=-3.25|1\u202F234\u202F567=1234567|12=12|1.234.567=1234567";
+    for (const QString& pair : commas.split('|')) {
+        EXPECT_EQ(NumberText::value(pair.section('=', 0, 0), true), pair.section('=', 1).toDouble())
+            << qPrintable(pair);
     }
-    EXPECT_EQ(NumberText::value("1,234.5", false).value_or(-9999), 1234.5);
-    for (const auto* text :
-         {"",     " ",  "<1", "<0,1", "n.d.", "12,5 %", "0x1F", "nan",   "inf",  "1e999",
-          "-",    ",",  "e5", "007",  "12,",  "1,2,3",  "12.5", "1.234", "1 23", "12345678901234567",
-          "1,5e", "--1"}) {
-        EXPECT_FALSE(NumberText::value(text, true).has_value()) << text;
+    EXPECT_EQ(NumberText::value("1,234.5", false), 1234.5);
+    const QString none = "| |<1|<0,1|n.d.|12,5 %|0x1F|nan|inf|1e999|-|,|e5|007|12,|1,2,3|12.5|1.234|1 23|"
+                         "12345678901234567|1,5e|--1";
+    for (const QString& text : none.split('|')) {
+        EXPECT_FALSE(NumberText::value(text, true).has_value()) << qPrintable(text);
     }
     EXPECT_FALSE(NumberText::value(QString(100000, '1'), true).has_value());
 }
@@ -113,15 +111,14 @@ TEST(LayoutGuess, survives_merged_ranges_made_to_harm) {
 }
 
 TEST(IdentifierGuess, knows_the_usual_headers_in_both_languages) {
-    EXPECT_EQ(identifierAmong({"Well", "Name", "Sample ID"}), 2);
-    EXPECT_EQ(identifierAmong({"Puits", "N° échantillon", "Nom"}), 1);
-    EXPECT_EQ(identifierAmong({"TOC", "Nom de l'échantillon"}), 1);
-    EXPECT_EQ(identifierAmong({"TOC", "SAMPLE_NO"}), 1);
-    EXPECT_EQ(identifierAmong({"Depth", "Nom", "Puits"}), 1);
-    EXPECT_EQ(identifierAmong({"TOC", "Well name", "Depth"}), 1);
-    EXPECT_EQ(identifierAmong({"Depth", "Sample depth", "Nd"}), 0) << "neither names a sample";
-    EXPECT_EQ(identifierAmong({}), -1);
-    EXPECT_EQ(identifierAmong({QString(30000, 'n'), "ID"}), 1);
+    for (const char* const names : {"TOC|Nom de l'échantillon", "TOC|SAMPLE_NO", "Depth|Nom|Puits",
+                                    "TOC|Well name|Depth", "Puits|N° échantillon|Nom"}) {
+        EXPECT_EQ(identifierAmong(names), 1) << names;
+    }
+    EXPECT_EQ(identifierAmong("Well|Name|Sample ID"), 2);
+    EXPECT_EQ(identifierAmong("Depth|Sample depth|Nd"), 0) << "neither names a sample";
+    EXPECT_EQ(identifierAmong(""), -1);
+    EXPECT_EQ(identifierAmong(QString(30000, 'n') + "|ID"), 1);
 }
 
 TEST(ModelSheet, takes_named_columns_as_the_first_row) {

@@ -22,7 +22,6 @@ TEST(ExcelDates, count_a_day_in_1900_that_was_not) {
     EXPECT_EQ(text(59, Kind::Date), "1900-02-28");
     EXPECT_EQ(text(60, Kind::Date), "1900-02-29");
     EXPECT_EQ(text(61, Kind::Date), "1900-03-01");
-    EXPECT_EQ(text(45415, Kind::Date), "2024-05-03");
     EXPECT_EQ(text(43953, Kind::Date, Origin::Year1904), "2024-05-03");
     EXPECT_EQ(text(0, Kind::Date, Origin::Year1904), "1904-01-01");
     EXPECT_EQ(text(2958465, Kind::Date), "9999-12-31");
@@ -33,7 +32,6 @@ TEST(ExcelDates, keep_the_time_and_round_it_to_milliseconds) {
     EXPECT_EQ(text(45415.604166666664, Kind::DateTime), "2024-05-03T14:30:00");
     EXPECT_EQ(text(45415.604166666664, Kind::Date), "2024-05-03T14:30:00")
         << "the time is hidden, not absent";
-    EXPECT_EQ(text(45415, Kind::DateTime), "2024-05-03T00:00:00");
     EXPECT_EQ(text(45414.999999999993, Kind::Date), "2024-05-03") << "one step of a double below the day";
     EXPECT_EQ(text(0.604166666666667, Kind::Time), "14:30:00");
     EXPECT_EQ(text(0.5, Kind::DateTime), "12:00:00");
@@ -61,11 +59,11 @@ TEST(ExcelFormats, are_told_apart_by_number) {
     for (const int id : {-1, 0, 1, 13, 23, 37, 44, 48, 49, 164, 100000}) {
         EXPECT_EQ(ExcelFormat::kindOf(id), plain) << id;
     }
-    EXPECT_EQ(ExcelFormat::kindOf(14), Kind::Date);
-    EXPECT_EQ(ExcelFormat::kindOf(21), Kind::Time);
-    EXPECT_EQ(ExcelFormat::kindOf(22), Kind::DateTime);
-    EXPECT_EQ(ExcelFormat::kindOf(46), Kind::Duration);
-    EXPECT_EQ(ExcelFormat::kindOf(58), Kind::Date);
+    const std::pair<int, Kind> others[] = {
+        {14, Kind::Date}, {21, Kind::Time}, {22, Kind::DateTime}, {46, Kind::Duration}, {58, Kind::Date}};
+    for (const auto& [id, kind] : others) {
+        EXPECT_EQ(ExcelFormat::kindOf(id), kind) << id;
+    }
 }
 
 TEST(ExcelFormats, are_told_apart_by_their_letters) {
