@@ -1,13 +1,10 @@
 #pragma once
 
+#include "HostTest.h"
 #include "ImportSteps.h"
 #include "MessageCollector.h"
-#include "VKError.h"
 
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 /// A folder with a project and an import database.
 class RawTest : public testing::Test {
@@ -20,11 +17,7 @@ protected:
 
     QString path(const QString& name) const { return folder.filePath(name); }
 
-    QString write(const QString& name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return file.fileName();
-    }
+    QString write(const QString& name, const QByteArray& bytes) const { return fileWith(path(name), bytes); }
 
     const VKObject2Analysis* imported(const QString& name, float height = 3.0F) {
         return ImportSteps::imported(*imports, name, {1.0F, height, 1.0F});
@@ -53,10 +46,3 @@ protected:
     std::unique_ptr<TechDB::TDatabase> project;
     std::unique_ptr<VKDatabaseImport> imports;
 };
-
-/// Succeeds if `text` holds `part`.
-inline testing::AssertionResult says(const std::string& text, const std::string& part) {
-    const bool found = text.find(part) != std::string::npos;
-    return (found ? testing::AssertionSuccess() : testing::AssertionFailure())
-           << '"' << text << "\" has to say \"" << part << '"';
-}

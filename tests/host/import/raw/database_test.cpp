@@ -3,6 +3,7 @@
 #include "ImportedName.h"
 #include "TcmFile.h"
 
+#include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -14,7 +15,14 @@
 using ImportSteps::tcmPath;
 
 namespace {
-class ImportDatabase : public RawTest {};
+
+class ImportDatabase : public RawTest {
+protected:
+    void start(QProcess& writer, int count, int height) const {
+        writer.start(IMPORT_WRITER, {folder.path(), QString::number(count), QString::number(height)});
+    }
+};
+
 } // namespace
 
 TEST_F(ImportDatabase, takes_the_same_curve_once_and_numbers_another_one) {
@@ -71,9 +79,10 @@ TEST_F(ImportDatabase, refuses_what_no_module_could_work_with_and_leaves_the_nam
 TEST_F(ImportDatabase, makes_hostile_names_harmless) {
     const uint before = QDir(folder.path()).count();
     const QString longest = QString(300, QChar(0x20ac)) + ".S00";
-    for (const QString& name :
-         QStringList{"../../X.S00", "/etc/passwd", "..", "", "a\\b.S00", "a\nb.S00", " ", longest,
-                     QString(QChar(0xd800)) + ".S00", QString("a") + QChar(0) + "b.S00"}) {
+    const QStringList hostile = QString("../../X.S00|/etc/passwd|..||a\\b.S00|a\nb.S00| ").split('|')
+                                << longest << QString(QChar(0xd800)) + ".S00"
+                                << QString("a") + QChar(0) + "b.S00";
+    for (const QString& name : hostile) {
         EXPECT_TRUE(stored(name)) << qPrintable(name);
     }
     EXPECT_TRUE(says(told(MessageLevel::Information),
@@ -149,4 +158,39 @@ TEST_F(ImportDatabase, that_cannot_be_written_says_so) {
     EXPECT_THROW(VKDatabaseImport::open(path("import")), VKError);
     ASSERT_EQ(seteuid(user), 0);
     ASSERT_EQ(chmod(qPrintable(path("import")), 0755), 0);
+}
+
+TEST_F(ImportDatabase, takes_what_two_windows_import_at_once) {
+    QProcess first;
+    QProcess second;
+    start(first, 40, 1);
+    start(second, 40, 2);
+    ASSERT_TRUE(first.waitForFinished(60000) && second.waitForFinished(60000));
+    EXPECT_EQ(first.exitCode() + second.exitCode(), 0)
+        << (first.readAllStandardError() + second.readAllStandardError()).constData();
+    EXPECT_EQ(imports->analyses().size(), 80);
+    EXPECT_EQ(project->analyses().size(), 80);
+    EXPECT_TRUE(imports->problems().isEmpty());
+}
+
+TEST_F(ImportDatabase, has_nothing_in_the_way_of_windows_that_were_killed_anywhere) {
+    imports.reset();
+    for (int round = 0; round < 12; ++round) {
+        QProcess writer;
+        start(writer, 10000, round);
+        ASSERT_TRUE(writer.waitForReadyRead(60000));
+        writer.waitForFinished(round); // some milliseconds, each time others
+        writer.kill();
+        ASSERT_TRUE(writer.waitForFinished());
+    }
+    imports = VKDatabaseImport::open(path("import"));
+    EXPECT_EQ(QDir(path("import/sessions")).entryList(QDir::Files).size(), 1) << "that of this window";
+    EXPECT_TRUE(imports->problems().isEmpty()) << "no row without its file";
+    const int before = imports->analyses().size();
+    EXPECT_GE(before, 12);
+    const VKObject2Analysis* const next = imported("X.S00", -1.0F);
+    ASSERT_NE(next, nullptr);
+    EXPECT_EQ(next->name(), QStringLiteral("X.S00 (%1)").arg(before + 1)) << "no name is lost";
+    EXPECT_TRUE(imports->objectPush(project.get(), next));
+    EXPECT_EQ(told(), "");
 }
