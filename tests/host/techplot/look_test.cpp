@@ -27,13 +27,10 @@ protected:
         return picture(viewer).pixelColor(viewer.plot()->toCanvas(value).toPoint() + offset);
     }
 
-    static int coloured(const QImage& image, const QColor& background) {
-        int count = 0;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
-                count += image.pixelColor(x, y) != background ? 1 : 0;
-        }
-        return count;
+    static bool isBlank(VKViewer2D& viewer) {
+        QImage paper = picture(viewer);
+        paper.fill(viewer.palette().color(QPalette::Base));
+        return picture(viewer) == paper;
     }
 };
 
@@ -76,7 +73,6 @@ TEST_F(Look, hostile_values_are_not_drawn_and_do_not_spoil_the_axes) {
     VKViewer2DChroma viewer;
     viewer.setGridVisible(false);
     show(viewer);
-    const QColor paper = viewer.palette().color(QPalette::Base);
     viewer.insertPlotter(signal({}, {}));
     viewer.insertPlotter(signal({none, inf, 3}, {1, 2, -inf}));
     viewer.insertPlotter(marks({none, 2}, {1, inf}, {1, 3}));
@@ -85,12 +81,12 @@ TEST_F(Look, hostile_values_are_not_drawn_and_do_not_spoil_the_axes) {
     auto* empty = new VKPlotterSignal;
     empty->setRawData(new TData(-5, nullptr, nullptr));
     viewer.insertPlotter(empty);
-    EXPECT_EQ(coloured(picture(viewer), paper), 0);
+    EXPECT_TRUE(isBlank(viewer));
     viewer.readOut(1);
     viewer.zoomTime(0.5, 0.5);
 }
 
-TEST_F(Look, a_line_breaks_at_what_is_not_a_number) {
+TEST_F(Look, a_line_breaks_at_what_is_not_a_number_and_huge_values_are_drawn_in_every_type) {
     VKViewer2DChroma viewer;
     viewer.setGridVisible(false);
     show(viewer);
@@ -102,13 +98,6 @@ TEST_F(Look, a_line_breaks_at_what_is_not_a_number) {
     EXPECT_EQ(at(viewer, {20, 5}), paper);
     EXPECT_NE(at(viewer, {35, 5}), paper);
     EXPECT_EQ(gap->nearestSample(19), 1);
-}
-
-TEST_F(Look, huge_values_are_drawn_in_every_type) {
-    VKViewer2DChroma viewer;
-    show(viewer);
-    auto* gap = signal({0, 10, 20, 30, 40}, {5, 5, none, 5, 5});
-    viewer.insertPlotter(gap);
     viewer.insertPlotter(signal({-huge, huge}, {-huge, huge}));
     for (int type = 0; type < 3; ++type) {
         gap->setType(static_cast<VKPlotterSignal::TypeSignal>(type));

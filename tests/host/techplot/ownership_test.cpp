@@ -1,7 +1,7 @@
+#include "Interfaces.h"
 #include "PlotFixture.h"
 #include "TViewer2DEmitterConnect.h"
 #include "VKError.h"
-#include "WorkspaceInterface.h"
 #include <QPointer>
 #include <malloc.h>
 #include <memory>
@@ -23,13 +23,6 @@ struct CountedSignal : VKPlotterSignal {
 struct CountedViewer : VKViewer2DChroma {
     CountedViewer() { ++living(); }
     ~CountedViewer() override { --living(); }
-};
-
-struct Workspace : WorkspaceInterface {
-    void showEditor(QWidget* editor) override { shown.append(editor); }
-    void closeEditor(QWidget* editor) override { shown.removeAll(editor); }
-    void arrangeViewers(int) override {}
-    QVector<QWidget*> shown;
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "ApplicationInterface.h"
+#include "Interfaces.h"
 #include "VKModuleViewerMgr.h"
 #include "VKViewer2DChroma.h"
 
@@ -24,14 +24,6 @@ public:
     QStringList take() { return std::exchange(calls, {}); }
 
     QStringList calls;
-};
-
-struct Application : ApplicationInterface {
-    QWidget* mainWidget() const override { return nullptr; }
-    void notifyProjectChanged(int) override {}
-    void showHelp(int helpId) override { pages += helpId; }
-
-    QList<int> pages;
 };
 
 void useAll(QWidget& viewer) {
