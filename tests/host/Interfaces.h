@@ -5,6 +5,7 @@
 #include "RibbonInterface.h"
 #include "WorkspaceInterface.h"
 
+#include <QList>
 #include <QVector>
 
 /// What the application offers to modules, for tests: each takes down what it is asked for.

@@ -259,26 +259,6 @@ TEST(TreeWidget, files_can_be_chosen_and_pasted_where_they_can_be_dropped) {
     EXPECT_EQ(dropped.count(), 2) << "a text is no file";
 }
 
-TEST(TreeWidget, other_data_is_up_to_the_listeners) {
-    VKTreeWidget tree;
-    QSignalSpy files(&tree, &VKTreeWidget::dataDroppped);
-    QMimeData data;
-    data.setData("application/x-own", "1");
-    EXPECT_FALSE(deliver<QDragEnterEvent>(tree.viewport(), data));
-    EXPECT_FALSE(deliver<QDragMoveEvent>(tree.viewport(), data));
-
-    QObject::connect(&tree, &VKTreeWidget::dragEnterCalled, [](QDragEnterEvent* event) { event->accept(); });
-    QObject::connect(&tree, &VKTreeWidget::dragMoveCalled, [](QDragMoveEvent* event) { event->accept(); });
-    QByteArray received;
-    QObject::connect(&tree, &VKTreeWidget::dropCalled,
-                     [&](QDropEvent* event) { received = event->mimeData()->data("application/x-own"); });
-    EXPECT_TRUE(deliver<QDragEnterEvent>(tree.viewport(), data));
-    EXPECT_TRUE(deliver<QDragMoveEvent>(tree.viewport(), data));
-    EXPECT_TRUE(deliver<QDropEvent>(tree.viewport(), data));
-    EXPECT_EQ(received, "1");
-    EXPECT_EQ(files.count(), 0);
-}
-
 TEST(TreeWidget, keys_reach_every_cell_and_click_it) {
     VKTreeWidget tree;
     tree.setColumnCount(3);

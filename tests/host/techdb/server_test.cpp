@@ -229,16 +229,3 @@ TEST_F(Server, a_password_file_and_a_checked_certificate_work_as_the_client_libr
     ServerDatabase::onServer("ALTER SYSTEM RESET ssl");
     control("reload");
 }
-
-TEST_F(Server, numbers_and_texts_keep_every_bit) {
-    const qint64 well = database->addWell("D\\n'; --")->key();
-    const QVector<QVariant> cells{
-        -0.0, 0.1, 5e-324, 1.7976931348623157e308, 1e22, QString("a\\'b\n\"é\U0001F600")};
-    const qint64 key = database->addSample(well, "S", {{"r"}, {"a", "b", "c", "d", "e", "f"}, cells, {}});
-    reopen();
-    const TechDB::SampleTable table = database->sampleTable(key);
-    for (int i = 0; i < 5; ++i) {
-        EXPECT_EQ(table.cells[i].toDouble(), cells[i].toDouble());
-    }
-    EXPECT_EQ(table.cells[5], cells[5]);
-}

@@ -1,6 +1,5 @@
-#include "ProjectFixture.h"
-
 #include "MessageCollector.h"
+#include "ProjectFixture.h"
 #include "Transaction.h"
 
 #include <QSignalSpy>
@@ -8,8 +7,12 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <random>
 
+using TechDB::ListedNames;
+using TechDB::NameRange;
 using TechDB::ObjectChange;
+using TechDB::SampleTable;
 
 namespace {
 
@@ -18,6 +21,31 @@ class Analyses : public ProjectTest {};
 bool sameBits(const std::vector<float>& a, const std::vector<float>& b) {
     return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(float)) == 0;
 }
+
+class Datasets : public ProjectTest {
+protected:
+    static SampleTable twoByTwo() {
+        return {{"Tmax", ""},
+                {"Sample 1", "é"},
+                {431.0, QVariant(), "", "n.d."},
+                {TProperty("Vorn_parameter", "true")}};
+    }
+};
+
+class Names : public ProjectTest {
+protected:
+    Names() {
+        for (const char* const name :
+             {"S 10", "s 9", "100%", "under_score", "a!b", "\u00c9cole 2", "S 100"}) {
+            database->addAnalysis(QString::fromUtf8(name), {}, ramp());
+        }
+    }
+    QString holding(const QString& part) const {
+        NameRange range;
+        range.part = part;
+        return joined(database->analysisNames(range));
+    }
+};
 
 } // namespace
 
@@ -191,4 +219,160 @@ TEST_F(Analyses, what_is_not_committed_leaves_neither_rows_nor_names_nor_message
     EXPECT_EQ(analysisNames(), QStringList("kept"));
     EXPECT_NE(database->addAnalysis("new", {}, ramp()), dropped) << "an object never turns into another";
     EXPECT_EQ(dropped->name(), "dropped");
+}
+
+TEST_F(Datasets, a_sample_comes_back_as_it_was) {
+    const qint64 well = database->addWell("Custom\\n import-a.xlsx'; --")->key();
+    SampleTable table = twoByTwo();
+    table.columnNames = QStringList{"Sample 1", "é", "c", "d"};
+    table.cells = {5e-324, 0.1 + 0.2, -0.0, 1.7976931348623157e308, 1e22, "", "n.d.", "a\\'b\n\"é\U0001F600"};
+    database->addSample(well, "Sample 7", table);
+    database->addSample(well, "no cells", {{}, {"only a column"}, {}, {}});
+    reopen();
+
+    const TechDB::DatasetInfo info = database->datasets().at(0);
+    EXPECT_EQ(info.sampleCount, 2);
+    EXPECT_EQ(database->getWell("Custom\\n import-a.xlsx'; --")->key(), info.key);
+    const QVector<TechDB::SampleInfo> samples = database->samples(info.key);
+    ASSERT_EQ(samples.size(), 2);
+    EXPECT_EQ(samples.at(0).name, "Sample 7");
+    EXPECT_EQ(samples.at(0).rowCount, 2);
+    EXPECT_EQ(samples.at(1).columnCount, 1);
+
+    const SampleTable stored = database->sampleTable(samples.at(0).key);
+    EXPECT_EQ(stored.rowNames, table.rowNames);
+    EXPECT_EQ(stored.columnNames, table.columnNames);
+    EXPECT_EQ(stored.cells, table.cells) << "an empty text isn't an empty cell";
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(stored.cells[i].toDouble(), table.cells[i].toDouble())
+            << "variants don't compare to the bit";
+    }
+    EXPECT_EQ(stored.properties.at(0).name(), "Vorn_parameter");
+    EXPECT_EQ(stored.properties.at(0).value(), "true");
+}
+
+TEST_F(Datasets, values_can_be_read_with_plain_sql) {
+    const qint64 well = database->addWell("D")->key();
+    database->addSample(well, "S", twoByTwo());
+    const QString from = "FROM dataset_values WHERE dataset = 'D' AND sample = 'S' AND ";
+    EXPECT_EQ(sql({"SELECT number_value " + from + "row_name = 'Tmax'"}), QVariant(431.0));
+    EXPECT_EQ(sql({"SELECT text_value " + from + "column_name = 'é'"}), QVariant("n.d."));
+    EXPECT_EQ(sql({"SELECT count(*) FROM dataset_values"}).toInt(), 3);
+}
+
+TEST_F(Datasets, removing_a_dataset_leaves_nothing_of_it) {
+    const qint64 well = database->addWell("D")->key();
+    database->addSample(well, "S", twoByTwo());
+    const qint64 other = database->addWell("other")->key();
+    reopen();
+    QSignalSpy changes(database.get(), &TechDB::TDatabase::changed);
+    database->removeWell(well);
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(sql({"SELECT (SELECT count(*) FROM samples) + (SELECT count(*) FROM sample_values)"
+                   " + (SELECT count(*) FROM sample_rows) + (SELECT count(*) FROM sample_columns)"
+                   " + (SELECT count(*) FROM sample_properties)"})
+                  .toInt(),
+              0);
+    database->renameWell(other, "D");
+    EXPECT_EQ(database->wellByKey(other)->displayName(), "D");
+    EXPECT_EQ(database->getWell("other"), nullptr);
+}
+
+TEST_F(Datasets, names_taken_and_tables_that_do_not_fit_are_refused_whole) {
+    const qint64 well = database->addWell("D")->key();
+    database->addSample(well, "S", twoByTwo());
+    SampleTable fewer = twoByTwo();
+    fewer.cells.removeLast();
+    SampleTable infinite = twoByTwo();
+    infinite.cells[0] = std::nan("");
+    EXPECT_REFUSED(database->addWell("D"), "<b>D</b> is already stored");
+    EXPECT_REFUSED(database->addSample(well, "S", twoByTwo()), "<b>S</b> already");
+    EXPECT_REFUSED(database->addSample(well, "T", fewer), "2 rows, 2 columns and 3 values");
+    EXPECT_REFUSED(database->addSample(well, "T", infinite), "no finite number");
+    EXPECT_NE(failure([&] { database->addSample(well + 1, "T", twoByTwo()); }), "") << "no such dataset";
+    EXPECT_EQ(database->samples(well).size(), 1);
+}
+
+TEST_F(Datasets, stored_tables_that_do_not_fit_together_are_refused) {
+    for (const QString statement :
+         {"UPDATE sample_values SET row_position = 2 WHERE row_position = 1",
+          "UPDATE sample_values SET column_position = -1 WHERE column_position = 1",
+          "UPDATE sample_rows SET position = 2147483647 WHERE position = 1", "DELETE FROM sample_columns"}) {
+        const qint64 well = database->addWell("D")->key();
+        const qint64 sample = database->addSample(well, "S", twoByTwo());
+        sql({statement});
+        EXPECT_REFUSED(database->sampleTable(sample), "don't fit together") << qPrintable(statement);
+        database->removeWell(well);
+    }
+}
+
+TEST_F(Names, come_page_by_page_in_natural_order_without_gap_or_repetition) {
+    const ListedNames all = database->analysisNames({});
+    EXPECT_EQ(joined(all).toStdString(), "100% a!b \u00c9cole 2 s 9 S 10 S 100 under_score");
+    NameRange page;
+    page.limit = 3;
+    QStringList pages;
+    for (ListedNames names = database->analysisNames(page); !names.isEmpty();
+         names = database->analysisNames(page)) {
+        pages.append(joined(names));
+        page.after = names.last().place;
+    }
+    EXPECT_EQ(pages, QStringList({"100% a!b \u00c9cole 2", "s 9 S 10 S 100", "under_score"}));
+    NameRange upTo;
+    upTo.after = all.at(1).place;
+    upTo.upTo = all.at(3).place;
+    EXPECT_EQ(joined(database->analysisNames(upTo)), "\u00c9cole 2 s 9");
+    upTo.only = all.at(4).place.key;
+    EXPECT_EQ(joined(database->analysisNames(upTo)), "");
+}
+
+TEST_F(Names, are_found_by_any_part_letter_by_letter) {
+    for (const QString pair : {"s 1=S 10 S 100", "%=100%", "r_s=under_score", "_=under_score", "A!B=a!b",
+                               "!=a!b", "e\u0301COLE=\u00c9cole 2"}) {
+        EXPECT_EQ(holding(pair.section('=', 0, 0)), pair.section('=', 1));
+    }
+    EXPECT_EQ(holding("' OR 1=1 --"), "");
+    EXPECT_EQ(holding(QString(100'000, 'x')), "") << "longer than engines take";
+}
+
+TEST_F(Names, of_a_dataset_are_found_by_those_of_its_samples) {
+    for (const QString name : {"Basin", "Ridge", "Empty"}) {
+        database->addWell(name);
+    }
+    const qint64 ridge = database->getWell("Ridge")->key();
+    for (const QString name : {"11", "2", "basin 3"}) {
+        database->addSample(ridge, name, {{"r"}, {"c"}, {1.0}, {}});
+    }
+    NameRange basin;
+    basin.part = "BASIN";
+    EXPECT_EQ(joined(database->datasetNames(basin)), "Basin Ridge");
+    EXPECT_EQ(joined(database->sampleNames(ridge, {})), "2 11 basin 3");
+    EXPECT_EQ(joined(database->sampleNames(ridge, basin)), "basin 3");
+    EXPECT_EQ(joined(database->sampleNames(ridge + 1, {})), "");
+    const ListedNames all = database->datasetNames({});
+    EXPECT_EQ(all.at(0).count, 0);
+    EXPECT_EQ(all.at(2).count, 1);
+}
+
+TEST_F(Names, of_the_greatest_length_find_room_in_the_index) {
+    // Letters that become two of three bytes each when they are folded, in no order that could be packed.
+    std::mt19937 random(1);
+    std::uniform_int_distribution<int> letter(0x0958, 0x095f);
+    QString name;
+    for (int i = 0; i < 255; ++i) {
+        name += QChar(letter(random));
+    }
+    const qint64 dataset = database->addWell(name)->key();
+    database->addSample(dataset, name, {{"r"}, {"c"}, {1.0}, {}});
+    database->addAnalysis(name, {}, ramp());
+    EXPECT_EQ(holding(name), name);
+    EXPECT_EQ(joined(database->sampleNames(dataset, {})), name);
+}
+
+TEST_F(Names, follow_a_renaming_and_are_listed_though_not_in_order_when_another_program_wrote_them) {
+    database->renameAnalysis(database->getAnalysis("S 10")->key(), "A 1");
+    EXPECT_EQ(holding("s 10"), "S 100");
+    EXPECT_EQ(joined(database->analysisNames({})), "100% A 1 a!b \u00c9cole 2 s 9 S 100 under_score");
+    sql({"INSERT INTO datasets (name, created) VALUES ('theirs', 'never')"});
+    EXPECT_EQ(joined(database->datasetNames({})), "theirs");
 }

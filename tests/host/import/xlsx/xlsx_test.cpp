@@ -6,6 +6,22 @@
 
 namespace {
 
+Workbook::Book read(const PackedWorkbook& packed, const Workbook::Limits& limits = {}) {
+    return XlsxReader::read(packed.bytes(), "made.xlsx", limits);
+}
+
+/// The rows of the only sheet as JSON, without the brackets around all.
+std::string rows(const QByteArray& xml) {
+    const Workbook::Book book = read(PackedWorkbook(xml));
+    EXPECT_EQ(book.sheets.size(), 1U);
+    const QJsonArray rows = ExpectedBook::toJson(book).at(0).toObject().value("rows").toArray();
+    return QJsonDocument(rows).toJson(QJsonDocument::Compact).toStdString();
+}
+
+std::string cells(const QByteArray& xml) {
+    return rows("<row>" + xml + "</row>");
+}
+
 const QByteArray sheet = "xl/worksheets/sheet1.xml";
 const QByteArray oneMore = "<sheet name=\"x\" r:id=\"worksheet\"/>";
 
@@ -29,8 +45,6 @@ void expect(const char* cause, const PackedWorkbook& packed, const Workbook::Lim
     expect(cause, packed.bytes(), limits);
 }
 
-using rows = PackedWorkbook;
-
 PackedWorkbook part(const QByteArray& name, const QByteArray& content) {
     PackedWorkbook packed;
     packed.parts[name] = content;
@@ -50,6 +64,74 @@ PackedWorkbook withSheets(int count, PackedWorkbook packed = {}) {
 
 } // namespace
 
+TEST(XlsxReader, warns_of_what_it_leaves_out) {
+    const auto warnings = [](const QString& name) {
+        return XlsxReader::read(bytesOf(QStringLiteral(IMPORT_TEST_DATA "/") + name), name)
+            .warnings.join('\n');
+    };
+    EXPECT_EQ(warnings("tables.xlsx"), "Sheet <b>Chart</b> holds no table and was left out.");
+    EXPECT_TRUE(
+        warnings("dates-1904.xlsx").startsWith("In sheet <b>Sheet</b>, 3 formulas have no stored result"));
+    EXPECT_TRUE(warnings("dates-1904.xlsx").contains("first B1;"));
+    EXPECT_EQ(warnings("results-shared.xlsx"), "");
+
+    Workbook::Limits limits;
+    limits.textLength = 3;
+    PackedWorkbook packed(
+        "<row><c t=\"s\"><v>0</v></c><c t=\"str\"><v>abc</v></c><c><v>1e99999</v></c></row>");
+    const Workbook::Book book = read(packed, limits);
+    EXPECT_EQ(book.sheets[0].cell(0, 0), "sha");
+    EXPECT_EQ(book.sheets[0].cell(0, 1), "abc");
+    EXPECT_EQ(book.warnings.join('\n'), "2 texts were cut after 3 characters.");
+}
+
+TEST(XlsxReader, takes_texts_as_they_were_typed) {
+    const auto inlineText = [](const QByteArray& text) {
+        return cells("<c t=\"inlineStr\"><is><t>" + text + "</t></is></c>");
+    };
+    EXPECT_EQ(inlineText("a_x000D_b_x0009_"), R"([["a\rb\t"]])");
+    EXPECT_EQ(inlineText("_x005F_x000D_"), R"([["_x000D_"]])");
+    EXPECT_EQ(inlineText("_x00e9_ _x12_ _xZZZZ_ _x+041_ __x0041_ _x0041"),
+              R"([["é _x12_ _xZZZZ_ _x+041_ _A _x0041"]])");
+    EXPECT_EQ(inlineText("_x0000_"), R"([["_x0000_"]])") << "a zero would end the text elsewhere";
+    EXPECT_EQ(inlineText("a<!-- c -->b<![CDATA[<c>]]>&#x1D11E;"), R"([["ab<c>𝄞"]])");
+    EXPECT_EQ(inlineText(""), R"([[""]])") << "the file says that it is a text";
+    EXPECT_EQ(cells("<c t=\"str\"><v> _x0041_ </v></c>"), R"([[" A "]])");
+    EXPECT_EQ(cells("<c t=\"str\"><f>A1</f><v></v></c>"), R"([[""]])");
+    EXPECT_EQ(cells("<c t=\"inlineStr\"><is/></c>"), R"([[""]])");
+}
+
+TEST(XlsxReader, takes_numbers_in_the_language_of_the_file_alone) {
+    EXPECT_EQ(cells("<c><v>1.5</v></c><c t=\"n\"><v> 2E-3 </v></c><c s=\"99\"><v>45415</v></c>"),
+              "[[1.5,0.002,45415]]");
+    EXPECT_EQ(cells("<c s=\"1\"><v>45415</v></c>"), R"([["2024-05-03"]])");
+    EXPECT_EQ(
+        cells("<c><v>1,5</v></c><c><v>1e999</v></c><c><v>NaN</v></c><c><v>-inf</v></c><c><v>0x1F</v></c>"),
+        R"([["1,5","1e999","NaN","-inf","0x1F"]])");
+    EXPECT_EQ(cells("<c t=\"b\"><v>true</v></c><c t=\"b\"><v>false</v></c><c t=\"e\"><v>#N/A</v></c>"),
+              R"([["TRUE","FALSE","#N/A"]])");
+    EXPECT_EQ(cells("<c t=\"d\" s=\"1\"><v>2024-05-03T00:00:00.000Z</v></c><c "
+                    "t=\"d\"><v>2024-05-03T00:00:00</v></c>"),
+              R"([["2024-05-03","2024-05-03T00:00:00"]])");
+}
+
+TEST(XlsxReader, puts_cells_where_they_say_and_else_behind_the_one_before) {
+    EXPECT_EQ(rows("<row r=\"3\"><c r=\"C3\"><v>1</v></c><c><v>2</v></c></row><row><c><v>3</v></c></row>"),
+              "[[],[],[null,null,1,2],[3]]");
+    EXPECT_EQ(rows("<row r=\"2\"><c r=\"B2\"><v>1</v></c><c r=\"A2\"><v>2</v></c></row><row "
+                   "r=\"1\"><c><v>3</v></c></row>"),
+              "[[3],[2,1]]")
+        << "the order of the file does not matter";
+    EXPECT_EQ(cells("<c><v>1</v></c><c s=\"1\"/><c/><c><v></v></c>"), "[[1]]")
+        << "a row ends where it is filled";
+    EXPECT_EQ(rows("<row><c><v>1</v></c></row><row r=\"900000\"/>"), "[[1]]");
+    EXPECT_EQ(rows("<row r=\"1048576\"/><row r=\"1\"><c r=\"xfd1\"/></row>"), "[]");
+    EXPECT_EQ(rows("</sheetData><extLst><ext><sheetData><row><c><v>6</v></c></row></sheetData></ext></"
+                   "extLst><sheetData>"),
+              "[]")
+        << "what an extension keeps for itself is no cell";
+}
+
 TEST(XlsxReader, refuses_what_is_no_workbook_by_what_it_is) {
     PackedWorkbook packed = without("_rels/.rels");
     expect("zip archive without a workbook", packed);
@@ -68,19 +150,20 @@ TEST(XlsxReader, refuses_what_is_no_workbook_by_what_it_is) {
 }
 
 TEST(XlsxReader, refuses_content_that_makes_no_sense_with_part_and_line) {
-    expect("(Part <b>xl/worksheets/sheet1.xml</b>, line 3: ", rows("\n\n<row></wrong>"));
+    expect("(Part <b>xl/worksheets/sheet1.xml</b>, line 3: ", PackedWorkbook("\n\n<row></wrong>"));
     expect("(Part <b>xl/sharedStrings.xml</b>", part("xl/sharedStrings.xml", "<sst><si><t>a"));
     expect("(Part <b>xl/styles.xml</b>, line 1", part("xl/styles.xml", ""));
-    expect("no shared text 1", rows("<row><c t=\"s\"><v>1</v></c></row>"));
-    expect("no shared text -1", rows("<row><c t=\"s\"><v>-1</v></c></row>"));
+    expect("no shared text 1", PackedWorkbook("<row><c t=\"s\"><v>1</v></c></row>"));
+    expect("no shared text -1", PackedWorkbook("<row><c t=\"s\"><v>-1</v></c></row>"));
     for (const char* const place : {"A", "1", "A0", "A1048577", "XFE1", "AAAAAAAAAA1",
                                     "A99999999999999999999", "A1B", "$A$1", "é1", "A-1", "A 1"}) {
-        expect("no place in a sheet", rows(QByteArray("<row><c r=\"") + place + "\"><v>1</v></c></row>"));
+        expect("no place in a sheet",
+               PackedWorkbook(QByteArray("<row><c r=\"") + place + "\"><v>1</v></c></row>"));
     }
     for (const char* const number : {"0", "-1", "1048577", "x", "99999999999", "1048576\"/><row x=\""}) {
-        expect("no place in a sheet", rows(QByteArray("<row r=\"") + number + "\"/>"));
+        expect("no place in a sheet", PackedWorkbook(QByteArray("<row r=\"") + number + "\"/>"));
     }
-    expect("no place in a sheet", rows("<row><c r=\"XFD1\"/><c/></row>"));
+    expect("no place in a sheet", PackedWorkbook("<row><c r=\"XFD1\"/><c/></row>"));
     for (const char* const range : {"", "A1:", ":B2", "B2:A1", "A1:B2:C3"}) {
         const QByteArray merged = QByteArray("<mergeCell ref=\"") + range + "\"/>";
         expect("no place in a sheet",
@@ -120,18 +203,18 @@ TEST(XlsxReader, refuses_xml_made_to_exhaust) {
     const QByteArray entities = "<!DOCTYPE sst [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;\">]>";
     expect("document type", part("xl/sharedStrings.xml", entities + "<sst><si><t>&b;</t></si></sst>"));
     const QByteArray nested = QByteArray("<a>").repeated(1'000'000);
-    expect("nested too deep", rows("<row>" + nested));
+    expect("nested too deep", PackedWorkbook("<row>" + nested));
     expect("nested too deep", part("xl/styles.xml", nested));
-    expect("too long", rows("<row x=\"" + QByteArray(2'000'000, 'x') + "\"/>"));
-    expect("too long", rows("<!--" + QByteArray(2'000'000, 'x') + "-->"));
+    expect("too long", PackedWorkbook("<row x=\"" + QByteArray(2'000'000, 'x') + "\"/>"));
+    expect("too long", PackedWorkbook("<!--" + QByteArray(2'000'000, 'x') + "-->"));
     const QByteArray pieces = (QByteArray(100'000, 'x') + "<!---->").repeated(10);
-    expect("too long", rows("<row><c><v>" + pieces + "</v></c></row>"));
+    expect("too long", PackedWorkbook("<row><c><v>" + pieces + "</v></c></row>"));
     QByteArray attributes;
     for (int i = 0; i < 20'000; ++i) {
         attributes += " a" + QByteArray::number(i) + "=\"n\"";
     }
-    expect("too many attributes", rows("<row" + attributes + "/>"));
-    expect("too many attributes", rows("<row" + attributes.replace(" a", " xmlns:a") + "/>"));
+    expect("too many attributes", PackedWorkbook("<row" + attributes + "/>"));
+    expect("too many attributes", PackedWorkbook("<row" + attributes.replace(" a", " xmlns:a") + "/>"));
     EXPECT_LT(timer.elapsed(), 20'000);
 }
 
@@ -139,8 +222,8 @@ TEST(XlsxReader, refuses_more_than_the_limits_allow) {
     Workbook::Limits limits;
     limits.cells = 3;
     const QByteArray cell = "<c><v>1</v></c>";
-    EXPECT_EQ(refusal(rows("<row>" + cell.repeated(3) + "</row>").bytes(), limits), "");
-    expect("more than 3 cells", rows("<row>" + cell.repeated(4) + "</row>"), limits);
+    EXPECT_EQ(refusal(PackedWorkbook("<row>" + cell.repeated(3) + "</row>").bytes(), limits), "");
+    expect("more than 3 cells", PackedWorkbook("<row>" + cell.repeated(4) + "</row>"), limits);
     limits = {};
     limits.sheets = 2;
     expect("more than 2 sheets", withSheets(3), limits);
@@ -160,8 +243,8 @@ TEST(XlsxReader, refuses_cells_so_far_apart_that_the_table_would_not_fit) {
         const QByteArray number = QByteArray::number(row * 50);
         far += "<row r=\"" + number + "\"><c r=\"XFD" + number + "\"><v>1</v></c></row>";
     }
-    expect("too far apart", rows(far));
-    const PackedWorkbook last = rows("<row r=\"1048576\"><c><v>1</v></c></row>");
+    expect("too far apart", PackedWorkbook(far));
+    const PackedWorkbook last = PackedWorkbook("<row r=\"1048576\"><c><v>1</v></c></row>");
     EXPECT_EQ(refusal(last.bytes()), "") << "one such cell is no attack";
     expect("too far apart", withSheets(900, last));
 }
