@@ -32,10 +32,7 @@ TEST(Palette, values_off_the_scale_take_an_end) {
 
 TEST(Palette, the_value_next_below_three_stays_on_the_scale_for_any_number_of_stops) {
     for (int stops = 2; stops < 400; ++stops) {
-        QList<QColor> colors;
-        for (int stop = 0; stop < stops; ++stop) {
-            colors += QColor(Qt::black);
-        }
+        QList<QColor> colors = QVector<QColor>(stops, Qt::black).toList();
         colors.last() = QColor(Qt::white);
         const QColor color = TPalette(colors, "many").colorAt(std::nextafter(3.0, 0.0));
         ASSERT_EQ(color, QColor(Qt::white)) << stops;

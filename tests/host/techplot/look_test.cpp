@@ -57,12 +57,10 @@ TEST_F(Look, markers_take_colour_and_shape_from_their_value) {
 }
 
 TEST_F(Look, without_palette_or_value_the_brush_fills_a_marker) {
-    VKPlotterPeakIndexation plain(data({1}, {1}));
-    plain.setColorBrush(Qt::blue);
-    EXPECT_EQ(plain.markerColor(0), QColor(Qt::blue));
-    EXPECT_EQ(plain.markerShape(0), VKPlotterPeakIndexation::Shape::Diamond);
-    const std::unique_ptr<VKPlotterPeakIndexation> odd(marks({1, 2}, {1, 1}, {none, 1}));
     TPalette palette(stops, "PeakColors");
+    const std::unique_ptr<VKPlotterPeakIndexation> odd(marks({1, 2}, {1, 1}, {none, 1}));
+    odd->setColorBrush(Qt::blue);
+    EXPECT_EQ(odd->markerColor(1), QColor(Qt::blue));
     odd->setPalette(&palette);
     EXPECT_EQ(odd->markerColor(0), QColor(Qt::blue));
     EXPECT_EQ(odd->markerColor(1), QColor("green"));

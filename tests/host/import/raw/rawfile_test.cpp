@@ -3,9 +3,6 @@
 #include "ImportRockEvalVI.h"
 #include "TFileBuffer.h"
 #include "TcmFile.h"
-#include "VKImportCtrl.h"
-#include "rockeval/channels.h"
-#include "rockeval/signalreader.h"
 
 #include <QAbstractItemModel>
 #include <QCryptographicHash>
@@ -53,34 +50,6 @@ std::string refusal(const QByteArray& bytes) {
 }
 
 } // namespace
-
-TEST_F(RawFiles, travel_bit_for_bit_from_the_file_into_the_project) {
-    VKImportCtrl pass(false);
-    auto* const raw = dynamic_cast<ImportRockEvalVI*>(pass.getDll(25));
-    ASSERT_NE(raw, nullptr);
-    const QFileInfoList files = QDir(EXAMPLES).entryInfoList({"*.S00"});
-    ASSERT_GT(files.size(), 5);
-    for (const QFileInfo& file : files) {
-        raw->setSource({}, file.filePath(), {}, nullptr);
-        QString name = file.fileName();
-        ASSERT_TRUE(ImportSteps::written(*imports, name, {raw->firstChannel(), raw->secondChannel()},
-                                         raw->dataCount()));
-        ASSERT_TRUE(imports->analysisObjectSave(name));
-        const VKObject2Analysis* const object = imports->getAnalysis(name);
-        ASSERT_TRUE(project->canPushObject(object, nullptr, nullptr, nullptr));
-        ASSERT_TRUE(imports->objectPush(project.get(), object));
-
-        const VKObject2Analysis* const analysis = project->getAnalysis(file.fileName());
-        ASSERT_NE(analysis, nullptr);
-        const auto graded =
-            rockeval::toChannels(rockeval::readSignalFile(file.filePath().toStdString()).curve);
-        EXPECT_TRUE(project->curve(analysis->key()).equals({graded.time, graded.fid})) << qPrintable(name);
-        EXPECT_FALSE(project->canPushObject(analysis, nullptr, nullptr, nullptr))
-            << "it stands there already";
-    }
-    EXPECT_EQ(project->analyses().first().analysisType, "Source Rock QAQC");
-    EXPECT_EQ(told(), "");
-}
 
 TEST_F(RawFiles, are_known_by_name_and_by_content) {
     EXPECT_TRUE(accepts(write("a.s00", "\r\n[Curves pyro]\r\n")));
