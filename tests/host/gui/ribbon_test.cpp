@@ -75,6 +75,7 @@ public:
     Editor() : VKRibbonModuleBar("Module") {}
     int getIdForHelp() const override { return 124; }
     using VKRibbonModuleBar::addGenericActions;
+    using VKRibbonModuleBar::createDescriptionGroup;
 
     QToolButton* button(const QString& text) const {
         for (auto* button : actionGroup()->findChildren<QToolButton*>()) {
@@ -274,6 +275,8 @@ TEST(ModuleBar, a_modules_own_actions_reach_the_observer_by_number) {
 TEST(ModuleBar, generic_actions_open_when_the_module_says_so) {
     Observer observer;
     Editor bar;
+    bar.createDescriptionGroup(-9999, true);
+    EXPECT_EQ(bar.mainLayout()->indexOf(bar.actionGroup()), 1) << "the description stands before it";
     bar.addGenericActions(true, true);
     for (const char* text : {"Results", "Save", "Help"})
         EXPECT_FALSE(bar.button(text)->isEnabled()) << text << " without an observer";

@@ -68,6 +68,10 @@ TEST(LogModel, keeps_the_latest_messages_and_tells_its_views) {
     EXPECT_EQ(errors.index(0, MessageLogModel::TextColumn).data(), "48");
     model.clear();
     EXPECT_EQ(model.rowCount() + errors.rowCount(), 0);
+    model.log(MessageLevel::Warning, "<b>x</b> <img src=y>");
+    EXPECT_EQ(model.index(0, MessageLogModel::LevelColumn).data(), "Warning");
+    EXPECT_EQ(model.index(0, 0).data(MessageLogModel::RichTextRole), "<b>x</b> &lt;img src=y&gt;");
+    EXPECT_EQ(model.index(0, MessageLogModel::TextColumn).data(), "x <img src=y>");
     EXPECT_EQ(MessageLogModel(-5).rowCount(), 0);
 }
 
