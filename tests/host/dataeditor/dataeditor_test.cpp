@@ -224,25 +224,25 @@ TEST_F(DataEditor, without_a_project_or_while_another_window_writes_nothing_is_s
 
 TEST_F(DataEditor, a_commit_that_can_not_be_written_is_told_and_leaves_the_old_dataset) {
     database->addSample(database->addWell("D")->key(), "old", {{"r"}, {"c"}, {1.0}, {}});
-    const auto saveOnto = [this](std::optional<FullDisk>& disk) {
-        TDataEditor2Ctrl editor;
-        EXPECT_TRUE(save(editor, "D", "S"));
-        disk.emplace();
-    };
-    std::optional<FullDisk> disk;
-    EXPECT_THROW(saveOnto(disk), VKError);
-    disk.reset();
-    EXPECT_EQ(samples("D"), QStringList("old"));
-    const auto failOnTheWay = [this](std::optional<FullDisk>& full) {
-        TDataEditor2Ctrl editor;
-        EXPECT_TRUE(save(editor, "D", "S"));
-        full.emplace();
-        throw std::runtime_error("something else");
-    };
-    EXPECT_THROW(failOnTheWay(disk), std::runtime_error);
-    disk.reset();
+    for (const bool failsOnTheWay : {false, true}) {
+        std::optional<FullDisk> disk;
+        const auto saveOnto = [&] {
+            TDataEditor2Ctrl editor;
+            EXPECT_TRUE(save(editor, "D", "S"));
+            disk.emplace();
+            if (failsOnTheWay) {
+                throw std::runtime_error("something else");
+            }
+        };
+        if (failsOnTheWay) {
+            EXPECT_THROW(saveOnto(), std::runtime_error);
+        } else {
+            EXPECT_THROW(saveOnto(), VKError);
+        }
+        disk.reset();
+        EXPECT_EQ(samples("D"), QStringList("old"));
+    }
     EXPECT_TRUE(says(errors(), "could not be stored; the project is as it was"));
-    EXPECT_EQ(samples("D"), QStringList("old"));
 }
 
 TEST_F(DataEditor, when_the_disk_fills_up_in_between_nothing_half_done_stays) {

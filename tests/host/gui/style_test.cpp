@@ -83,16 +83,13 @@ TEST(Style, a_header_as_low_as_a_row_shows_its_text_whole) {
 }
 
 TEST(Resources, the_pictures_that_modules_name_are_there) {
-    for (const char* name :
-         {":/Ressources/png/modules/vorn_2015/Vorn_SourceRock_QAQC.png",
-          ":/Ressources/png/modules/vorn_2015/Vorn_SourceRock_Import.png",
-          ":/Ressources/png/modules/vorn_2015/Vorn_CustomImport.png",
-          ":/Ressources/png/modules/vorn_2015/Vorn_Isotopes.png", ":/Ressources/png/toolbar/blue_plus.png",
-          ":/Ressources/png/toolbar/close_project.png", ":/Ressources/png/workflow/action_32.png",
-          ":Ressources/png/toolbar/delete_generic.png", ":/Ressources/png/toolbar/launch.png"}) {
-        EXPECT_FALSE(QPixmap(name).isNull()) << name;
-        EXPECT_FALSE(QIcon(name).pixmap(16, 16).isNull()) << name;
+    for (const QString name :
+         {"modules/vorn_2015/Vorn_SourceRock_QAQC", "modules/vorn_2015/Vorn_SourceRock_Import",
+          "modules/vorn_2015/Vorn_CustomImport", "modules/vorn_2015/Vorn_Isotopes", "toolbar/blue_plus",
+          "toolbar/close_project", "workflow/action_32", "toolbar/delete_generic", "toolbar/launch"}) {
+        EXPECT_FALSE(QPixmap(":/Ressources/png/" + name + ".png").isNull()) << qPrintable(name);
     }
+    EXPECT_FALSE(QIcon(":Ressources/png/toolbar/delete_generic.png").pixmap(16, 16).isNull());
 }
 
 TEST(Resources, every_drawing_has_its_picture_at_twice_the_size) {

@@ -92,12 +92,6 @@ TEST_F(Export, what_cannot_be_written_is_said_and_leaves_the_old_file_whole) {
     EXPECT_EQ(content("many.pdf").count("/Type /Page\n"), 14);
 }
 
-TEST_F(Export, a_viewer_without_points_gives_an_empty_plot) {
-    const VKViewer2DChroma empty;
-    TPlotExport::write({&empty}, path("empty.png"));
-    EXPECT_EQ(redPixels(QImage(path("empty.png"))), 0);
-}
-
 TEST_F(Export, file_names_are_made_of_names_without_what_folders_stumble_over) {
     EXPECT_EQ(TExportCommand::fileNameFor("A/B: 14\\7 <2>"), "A_B_ 14_7 _2_");
     EXPECT_EQ(TExportCommand::fileNameFor("../../.hidden"), "_.._.hidden");

@@ -45,6 +45,7 @@ TEST_F(ImportDatabase, takes_a_curve_into_the_project_once_and_under_a_free_name
     EXPECT_TRUE(stored("X.S00") && stored("X.S00"));
     EXPECT_EQ(names(*project), QStringList("X.S00"));
     EXPECT_TRUE(says(told(MessageLevel::Information), "<b>X.S00</b> is in the project"));
+    EXPECT_FALSE(project->canPushObject(project->getAnalysis("X.S00"), nullptr, nullptr, nullptr));
     project->renameAnalysis(project->getAnalysis("X.S00")->key(), "Y.S00");
     EXPECT_TRUE(stored("Y.S00", 7.0F) && stored("Y.S00", 7.0F));
     EXPECT_EQ(names(*project), QStringList({"Y.S00", "Y.S00 (2)"}));
