@@ -75,10 +75,7 @@ TEST_F(Analyses, a_curve_comes_back_bit_for_bit_after_reopening) {
 TEST_F(Analyses, a_curve_is_stored_as_abscissae_then_ordinates_lowest_byte_first) {
     database->addAnalysis("A", {}, {{0.0F, 1.0F}, {-2.0F, 0.5F}});
     const QString digits = server ? "encode(points, 'hex')" : "lower(hex(points))";
-    EXPECT_EQ(sql({"SELECT " + digits + " FROM curves"}).toString(), "00000000"
-                                                                     "0000803f"
-                                                                     "000000c0"
-                                                                     "0000003f");
+    EXPECT_EQ(sql({"SELECT " + digits + " FROM curves"}).toString(), "000000000000803f000000c00000003f");
 }
 
 TEST_F(Analyses, curves_that_no_module_could_use_are_refused_with_the_cause) {
@@ -151,17 +148,16 @@ TEST_F(Analyses, stored_curves_that_lie_about_themselves_are_refused_with_an_err
     if (server) {
         GTEST_SKIP() << "the server keeps to the types of its columns";
     }
-    const QStringList tampering{"UPDATE curves SET points = substr(points, 1, 20)",       // cut off
-                                "UPDATE curves SET points = points || x'00'",             // too long
-                                "UPDATE curves SET points = x''",                         //
-                                "UPDATE curves SET points = 'text'",                      //
-                                "UPDATE analyses SET point_count = 2147483648",           // overflows
-                                "UPDATE analyses SET point_count = -3",                   //
-                                "UPDATE analyses SET point_count = 'many'",               //
-                                "UPDATE analyses SET point_count = 0",                    //
-                                "UPDATE curves SET points = zeroblob(24)",                // one abscissa
-                                "UPDATE curves SET points = x'0000c07f' || zeroblob(20)", // not a number
-                                "DELETE FROM curves"};
+    // Cut off, too long, none, a text; counts too large, below none, a text, none; one abscissa, not a
+    // number.
+    const QStringList tampering =
+        QString("UPDATE curves SET points = substr(points, 1, 20);UPDATE curves SET points = points || x'00';"
+                "UPDATE curves SET points = x'';UPDATE curves SET points = 'text';"
+                "UPDATE analyses SET point_count = 2147483648;UPDATE analyses SET point_count = -3;"
+                "UPDATE analyses SET point_count = 'many';UPDATE analyses SET point_count = 0;"
+                "UPDATE curves SET points = zeroblob(24);"
+                "UPDATE curves SET points = x'0000c07f' || zeroblob(20);DELETE FROM curves")
+            .split(';');
     for (const QString& statement : tampering) {
         database.reset();
         QFile::remove(path());
@@ -268,11 +264,10 @@ TEST_F(Datasets, removing_a_dataset_leaves_nothing_of_it) {
     QSignalSpy changes(database.get(), &TechDB::TDatabase::changed);
     database->removeWell(well);
     EXPECT_EQ(changes.count(), 1);
-    EXPECT_EQ(sql({"SELECT (SELECT count(*) FROM samples) + (SELECT count(*) FROM sample_values)"
-                   " + (SELECT count(*) FROM sample_rows) + (SELECT count(*) FROM sample_columns)"
-                   " + (SELECT count(*) FROM sample_properties)"})
-                  .toInt(),
-              0);
+    for (const QString what :
+         {"samples", "sample_values", "sample_rows", "sample_columns", "sample_properties"}) {
+        EXPECT_EQ(sql({"SELECT count(*) FROM " + what}).toInt(), 0) << qPrintable(what);
+    }
     database->renameWell(other, "D");
     EXPECT_EQ(database->wellByKey(other)->displayName(), "D");
     EXPECT_EQ(database->getWell("other"), nullptr);

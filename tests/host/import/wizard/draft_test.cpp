@@ -20,13 +20,11 @@ protected:
     }
 
     ImportDraft custom(Workbook::Sheet sheet) {
-        sheets.clear();
-        sheets.push_back(std::move(sheet));
+        sheets.assign(1, std::move(sheet));
         return {sheets, 0, customStrategy};
     }
     ImportDraft known(Workbook::Sheet sheet) {
-        sheets.clear();
-        sheets.push_back(std::move(sheet));
+        sheets.assign(1, std::move(sheet));
         return {sheets, 0, someStrategy};
     }
 

@@ -6,6 +6,8 @@
 
 namespace {
 
+using Rows = PackedWorkbook;
+
 Workbook::Book read(const PackedWorkbook& packed, const Workbook::Limits& limits = {}) {
     return XlsxReader::read(packed.bytes(), "made.xlsx", limits);
 }
@@ -150,20 +152,19 @@ TEST(XlsxReader, refuses_what_is_no_workbook_by_what_it_is) {
 }
 
 TEST(XlsxReader, refuses_content_that_makes_no_sense_with_part_and_line) {
-    expect("(Part <b>xl/worksheets/sheet1.xml</b>, line 3: ", PackedWorkbook("\n\n<row></wrong>"));
+    expect("(Part <b>xl/worksheets/sheet1.xml</b>, line 3: ", Rows("\n\n<row></wrong>"));
     expect("(Part <b>xl/sharedStrings.xml</b>", part("xl/sharedStrings.xml", "<sst><si><t>a"));
     expect("(Part <b>xl/styles.xml</b>, line 1", part("xl/styles.xml", ""));
-    expect("no shared text 1", PackedWorkbook("<row><c t=\"s\"><v>1</v></c></row>"));
-    expect("no shared text -1", PackedWorkbook("<row><c t=\"s\"><v>-1</v></c></row>"));
+    expect("no shared text 1", Rows("<row><c t=\"s\"><v>1</v></c></row>"));
+    expect("no shared text -1", Rows("<row><c t=\"s\"><v>-1</v></c></row>"));
     for (const char* const place : {"A", "1", "A0", "A1048577", "XFE1", "AAAAAAAAAA1",
                                     "A99999999999999999999", "A1B", "$A$1", "é1", "A-1", "A 1"}) {
-        expect("no place in a sheet",
-               PackedWorkbook(QByteArray("<row><c r=\"") + place + "\"><v>1</v></c></row>"));
+        expect("no place in a sheet", Rows(QByteArray("<row><c r=\"") + place + "\"><v>1</v></c></row>"));
     }
     for (const char* const number : {"0", "-1", "1048577", "x", "99999999999", "1048576\"/><row x=\""}) {
-        expect("no place in a sheet", PackedWorkbook(QByteArray("<row r=\"") + number + "\"/>"));
+        expect("no place in a sheet", Rows(QByteArray("<row r=\"") + number + "\"/>"));
     }
-    expect("no place in a sheet", PackedWorkbook("<row><c r=\"XFD1\"/><c/></row>"));
+    expect("no place in a sheet", Rows("<row><c r=\"XFD1\"/><c/></row>"));
     for (const char* const range : {"", "A1:", ":B2", "B2:A1", "A1:B2:C3"}) {
         const QByteArray merged = QByteArray("<mergeCell ref=\"") + range + "\"/>";
         expect("no place in a sheet",
@@ -203,18 +204,18 @@ TEST(XlsxReader, refuses_xml_made_to_exhaust) {
     const QByteArray entities = "<!DOCTYPE sst [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;\">]>";
     expect("document type", part("xl/sharedStrings.xml", entities + "<sst><si><t>&b;</t></si></sst>"));
     const QByteArray nested = QByteArray("<a>").repeated(1'000'000);
-    expect("nested too deep", PackedWorkbook("<row>" + nested));
+    expect("nested too deep", Rows("<row>" + nested));
     expect("nested too deep", part("xl/styles.xml", nested));
-    expect("too long", PackedWorkbook("<row x=\"" + QByteArray(2'000'000, 'x') + "\"/>"));
-    expect("too long", PackedWorkbook("<!--" + QByteArray(2'000'000, 'x') + "-->"));
+    expect("too long", Rows("<row x=\"" + QByteArray(2'000'000, 'x') + "\"/>"));
+    expect("too long", Rows("<!--" + QByteArray(2'000'000, 'x') + "-->"));
     const QByteArray pieces = (QByteArray(100'000, 'x') + "<!---->").repeated(10);
-    expect("too long", PackedWorkbook("<row><c><v>" + pieces + "</v></c></row>"));
+    expect("too long", Rows("<row><c><v>" + pieces + "</v></c></row>"));
     QByteArray attributes;
     for (int i = 0; i < 20'000; ++i) {
         attributes += " a" + QByteArray::number(i) + "=\"n\"";
     }
-    expect("too many attributes", PackedWorkbook("<row" + attributes + "/>"));
-    expect("too many attributes", PackedWorkbook("<row" + attributes.replace(" a", " xmlns:a") + "/>"));
+    expect("too many attributes", Rows("<row" + attributes + "/>"));
+    expect("too many attributes", Rows("<row" + attributes.replace(" a", " xmlns:a") + "/>"));
     EXPECT_LT(timer.elapsed(), 20'000);
 }
 
@@ -222,8 +223,8 @@ TEST(XlsxReader, refuses_more_than_the_limits_allow) {
     Workbook::Limits limits;
     limits.cells = 3;
     const QByteArray cell = "<c><v>1</v></c>";
-    EXPECT_EQ(refusal(PackedWorkbook("<row>" + cell.repeated(3) + "</row>").bytes(), limits), "");
-    expect("more than 3 cells", PackedWorkbook("<row>" + cell.repeated(4) + "</row>"), limits);
+    EXPECT_EQ(refusal(Rows("<row>" + cell.repeated(3) + "</row>").bytes(), limits), "");
+    expect("more than 3 cells", Rows("<row>" + cell.repeated(4) + "</row>"), limits);
     limits = {};
     limits.sheets = 2;
     expect("more than 2 sheets", withSheets(3), limits);
@@ -244,7 +245,7 @@ TEST(XlsxReader, refuses_cells_so_far_apart_that_the_table_would_not_fit) {
         far += "<row r=\"" + number + "\"><c r=\"XFD" + number + "\"><v>1</v></c></row>";
     }
     expect("too far apart", PackedWorkbook(far));
-    const PackedWorkbook last = PackedWorkbook("<row r=\"1048576\"><c><v>1</v></c></row>");
+    const PackedWorkbook last = Rows("<row r=\"1048576\"><c><v>1</v></c></row>");
     EXPECT_EQ(refusal(last.bytes()), "") << "one such cell is no attack";
     expect("too far apart", withSheets(900, last));
 }
