@@ -51,7 +51,7 @@ endif()
 # slowed down, nor compiled for this alone.
 macro(vorn_count_lines)
     if(VORN_COVERAGE)
-        add_compile_options(--coverage -O0)
+        add_compile_options(--coverage)
     endif()
 endmacro()
 
