@@ -44,6 +44,22 @@ void checkPlace(DatabaseKind kind, const QString& path) {
     }
 }
 
+/// Whether the engine left a log beside the file, from which it mends the file.
+bool hasLog(const QString& path) {
+    return QFileInfo(path + QLatin1String("-wal")).size() > 0 ||
+           QFileInfo(path + QLatin1String("-journal")).size() > 0;
+}
+
+/// The engine reads a page that lacks its end as if zeros followed, which may be the end of a curve.
+void checkWholePages(SqlConnection& connection, qint64 size) {
+    qint64 page = 0;
+    connection.select(QStringLiteral("PRAGMA page_size"), {},
+                      [&page](const QSqlQuery& row) { page = row.value(0).toLongLong(); });
+    if (page > 0 && size % page != 0) {
+        throw SqlError(SqlFailure::Damaged, QSqlError(), connection.kind(), connection.place());
+    }
+}
+
 void setUpOfOwn(SqlConnection& connection) {
     const QStringList statements = connection.dialect().setUpOfOwn();
     for (const QString& statement : statements) {
@@ -184,8 +200,13 @@ std::unique_ptr<SqlConnection> create(const QString& path, const DatabaseSchema&
 
 std::unique_ptr<SqlConnection> open(const QString& path, const DatabaseSchema& schema) {
     checkPlace(schema.kind(), path);
+    const qint64 size = QFileInfo(path).size();
+    const bool isMended = hasLog(path);
     std::unique_ptr<SqlConnection> connection = connected(schema.kind(), path);
     const int version = schema.knownVersionOf(*connection);
+    if (!isMended) {
+        checkWholePages(*connection, size);
+    }
     setUpOfOwn(*connection);
     if (version < schema.version()) {
         migrate(*connection, schema, version);
