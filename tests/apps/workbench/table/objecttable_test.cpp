@@ -1,85 +1,108 @@
+#include "CsvText.h"
 #include "MessageCollector.h"
 #include "ObjectTable.h"
 #include "ProjectFixture.h"
+#include "VKDataModelGeneric.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <cmath>
+#include <cstring>
+#include <limits>
+
 namespace {
 
 using ObjectTableTest = ProjectTest;
-using TechDB::SampleTable;
 
-QString header(const VKDataModel& table, int column) {
-    return table.headerData(column, Qt::Horizontal, VKDataModel::datasetRole).toString();
+constexpr int role = VKDataModel::datasetRole;
+
+/// The table of an object as it is written, without the mark of its encoding.
+std::string written(const VKObject2& object) {
+    return CsvText(*ObjectTable::of(object)).all().mid(3).replace("\r\n", "\n").toStdString();
 }
 
-QStringList headers(const VKDataModel& table) {
-    QStringList texts;
-    for (int column = 0; column < table.columnCount(); ++column) {
-        texts.append(header(table, column));
-    }
-    return texts;
+QByteArray written(const QVariant& cell) {
+    VKDataModelGeneric table;
+    table.createEmpty(1, 1);
+    table.setData(table.index(0, 0), cell, role);
+    return CsvText(table).row(0).chopped(2);
 }
 
-QStringList rowOf(const VKDataModel& table, int row) {
-    QStringList texts;
-    for (int column = 0; column < table.columnCount(); ++column) {
-        texts.append(table.index(row, column).data().toString());
-    }
-    return texts;
-}
-
-QJsonObject jsonOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+template <typename Number>
+bool sameBits(Number a, Number b) {
+    return std::memcmp(&a, &b, sizeof(Number)) == 0;
 }
 
 } // namespace
 
+TEST(CsvText, is_written_as_rfc_4180_has_it) {
+    VKDataModelGeneric table;
+    table.createEmpty(3, 2);
+    table.setHeaderData(0, Qt::Horizontal, "Qualité", role);
+    table.setHeaderData(1, Qt::Horizontal, "a,b", role);
+    table.setHeaderData(1, Qt::Vertical, "well \"7\"", role);
+    table.setData(table.index(0, 0), "two\r\nlines", role);
+    table.setData(table.index(0, 1), 0.5, role);
+    table.setData(table.index(1, 0), "=1+1", role);
+    table.setData(table.index(1, 2), " blank before", role);
+    EXPECT_EQ(CsvText(table).all().toStdString(), "\xef\xbb\xbf,Qualit\xc3\xa9,\"a,b\",\r\n"
+                                                  ",\"two\r\nlines\",0.5,\r\n"
+                                                  "\"well \"\"7\"\"\",=1+1,,\" blank before\"\r\n");
+}
+
+TEST(CsvText, numbers_are_short_and_read_back_to_the_same_bits_and_what_is_none_is_no_blank_line) {
+    const std::pair<QVariant, const char*> cells[] = {
+        {0.1F, "0.1"},
+        {0.1, "0.1"},
+        {-0.0, "-0"},
+        {100000.0F, "100000"},
+        {1e15, "1e+15"},
+        {1264, "1264"},
+        {{}, "\"\""},
+        {std::numeric_limits<double>::quiet_NaN(), "\"\""},
+        {std::nanf(""), "\"\""},
+        {-std::numeric_limits<double>::infinity(), "-inf"},
+    };
+    for (const auto& [cell, text] : cells) {
+        EXPECT_EQ(written(cell), text);
+    }
+    for (const double number :
+         {0.1 + 0.2, 1.0 / 3, 5e-324, 1.7976931348623157e308, 9007199254740993.0, 123456.789e-9}) {
+        EXPECT_TRUE(sameBits(written(number).toDouble(), number)) << written(number).constData();
+    }
+    for (const float number : {16777217.0F, 1.0F / 3, 1.17549435e-38F, 3.40282347e38F, 8.5899346e9F}) {
+        EXPECT_TRUE(sameBits(std::strtof(written(number), nullptr), number)) << written(number).constData();
+    }
+}
+
 TEST_F(ObjectTableTest, a_curve_is_its_stored_floats) {
     const auto* const analysis = database->addAnalysis("A1", "SR", {{0.1F, 0.2F}, {7.25F, 1e-7F}});
-    const auto table = ObjectTable::of(*analysis);
-    EXPECT_EQ(table->name(), "A1");
-    EXPECT_EQ(table->project(), "lab");
-    EXPECT_EQ(headers(*table), (QStringList{"Time [s]", "FID"}));
-    ASSERT_EQ(table->rowCount(), 2);
-    EXPECT_EQ(table->index(1, 0).data().userType(), int(QMetaType::Float));
-    EXPECT_EQ(table->index(1, 1).data().toFloat(), 1e-7F);
-    EXPECT_EQ(ObjectTable::of(*analysis->TIC())->rowCount(), 2);
+    EXPECT_EQ(written(*analysis), "Time [s],FID\n0.1,7.25\n0.2,1e-07\n");
+    EXPECT_EQ(written(*analysis->TIC()), written(*analysis));
+    EXPECT_EQ(ObjectTable::of(*analysis)->name(), "A1");
+    EXPECT_EQ(ObjectTable::of(*analysis)->project(), "lab");
+    database->removeAnalysis(analysis->key());
+    EXPECT_THROW(ObjectTable::of(*analysis), VKError);
 }
 
 TEST_F(ObjectTableTest, samples_are_joined_by_their_columns_names) {
     const auto* const well = database->addWell("W");
+    EXPECT_EQ(ObjectTable::of(*well)->rowCount(), 0);
     database->addSample(well->key(), "s1", {{"r1", "r2"}, {"A", "B", "A"}, {1., 2., 3., 4., {}, "x"}, {}});
     database->addSample(well->key(), "s2", {{""}, {"C", "A"}, {5., 6.}, {}});
-    const auto table = ObjectTable::of(*well);
-    EXPECT_EQ(headers(*table), (QStringList{"Sample", "Row", "A", "B", "A", "C"}));
-    ASSERT_EQ(table->rowCount(), 3);
-    EXPECT_EQ(rowOf(*table, 0), (QStringList{"s1", "r1", "1", "2", "3", ""}));
-    EXPECT_EQ(rowOf(*table, 1), (QStringList{"s1", "r2", "4", "", "x", ""}));
-    EXPECT_EQ(rowOf(*table, 2), (QStringList{"s2", "", "6", "", "", "5"}));
+    EXPECT_EQ(written(*well), "Sample,Row,A,B,A,C\ns1,r1,1,2,3,\ns1,r2,4,,x,\ns2,,6,,,5\n");
 }
 
 TEST_F(ObjectTableTest, upright_samples_are_turned_into_rows) {
     const auto* const well = database->addWell("W");
-    database->addSample(well->key(), "Sample 2", {{"TOC", "Tmax"}, {"1", "2"}, {2.5, 3.5, 440., 450.}, {}});
-    database->addSample(well->key(), "Sample 1", {{"TOC", "Tmax"}, {""}, {1.5, 430.}, {}});
-    const auto table = ObjectTable::of(*well);
-    EXPECT_EQ(headers(*table), (QStringList{"Sample", "TOC", "Tmax"}));
-    ASSERT_EQ(table->rowCount(), 3);
-    EXPECT_EQ(rowOf(*table, 1), (QStringList{"Sample 2", "3.5", "450"}));
-    EXPECT_EQ(rowOf(*table, 2), (QStringList{"Sample 1", "1.5", "430"}));
+    database->addSample(well->key(), "s2", {{"TOC", "Tmax"}, {"1", "2"}, {2.5, 3.5, 440., 450.}, {}});
+    database->addSample(well->key(), "s1", {{"TOC", "Tmax"}, {""}, {1.5, 430.}, {}});
+    const std::string turned = "Sample,TOC,Tmax\ns2,2.5,440\ns2,3.5,450\ns1,1.5,430\n";
+    EXPECT_EQ(written(*well), turned);
     database->addSample(well->key(), "all", {{"TOC", "Tmax"}, {"a", "b", "c"}, {1., 2., 3., 4., 5., 6.}, {}});
-    EXPECT_EQ(ObjectTable::of(*well)->rowCount(), 3) << "the table as a whole says nothing new";
-}
-
-TEST_F(ObjectTableTest, what_is_gone_can_not_be_read) {
-    const auto* const analysis = database->addAnalysis("A1", "SR", ramp());
-    database->removeAnalysis(analysis->key());
-    EXPECT_THROW(ObjectTable::of(*analysis), VKError);
-    EXPECT_EQ(ObjectTable::of(*database->addWell("empty"))->rowCount(), 0);
+    EXPECT_EQ(written(*well), turned) << "the table as a whole says nothing new";
 }
 
 TEST_F(ObjectTableTest, several_are_exported_under_safe_names_and_overwrite_nothing) {
@@ -94,14 +117,14 @@ TEST_F(ObjectTableTest, several_are_exported_under_safe_names_and_overwrite_noth
     const QDir out(path("out"));
     ObjectTable::exportCsv({first, gone, second}, out.path());
     ASSERT_EQ(out.entryList({"*.csv"}, QDir::Files).size(), 2);
-    const QJsonObject origin = jsonOf(out.filePath("tables.origin.json"));
+    const QJsonObject origin = QJsonDocument::fromJson(bytesOf(out.filePath("tables.origin.json"))).object();
     EXPECT_EQ(origin["version"].toString(), VORN_VERSION);
     EXPECT_EQ(origin["project"].toString(), database->path());
-    ASSERT_EQ(origin["inputs"].toArray().size(), 2);
-    const QJsonObject input = origin["inputs"].toArray().at(0).toObject();
-    EXPECT_EQ(input["sha256"].toString(), QString(64, 'a'));
-    EXPECT_TRUE(out.exists(input["table"].toString()));
-    EXPECT_TRUE(origin["inputs"].toArray().at(1).toObject()["sha256"].isNull());
+    const QJsonArray inputs = origin["inputs"].toArray();
+    ASSERT_EQ(inputs.size(), 2);
+    EXPECT_EQ(inputs[0].toObject()["sha256"].toString(), QString(64, 'a'));
+    EXPECT_TRUE(out.exists(inputs[0].toObject()["table"].toString()));
+    EXPECT_TRUE(inputs[1].toObject()["sha256"].isNull());
     EXPECT_EQ(log.messages(MessageLevel::Error).size(), 1);
     ASSERT_EQ(log.messages(MessageLevel::Information).size(), 2);
     EXPECT_TRUE(log.messages(MessageLevel::Information).first().startsWith("2 tables"));

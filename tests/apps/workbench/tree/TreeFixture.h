@@ -2,18 +2,17 @@
 
 #include "ProjectTree.h"
 #include "ProjectTreeModel.h"
+#include "ProjectView.h"
 #include "TDatabase.h"
 #include "VKError.h"
 #include "VKObject2Analysis.h"
 #include "VKObject2Well.h"
 
 #include <QAbstractItemModelTester>
-#include <QAction>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -25,26 +24,21 @@ protected:
           former(VKError::setHandler([this](const QString& text) { reported.append(text); })) {
         tree.resize(480, 640);
         tree.show();
+        tree.activateWindow();
         tree.setProject(database.get());
+        view().setFocus();
     }
     ~TreeTest() override {
         tree.setProject(nullptr);
         VKError::setHandler(former);
     }
 
-    QString path() const { return folder.filePath(QStringLiteral("lab.vornproj")); }
+    QString path() const { return folder.filePath("lab.vornproj"); }
 
-    static const VKObject2Analysis* addAnalysis(TechDB::TDatabase& project, const QString& name,
-                                                int points = 2) {
-        std::vector<float> x;
-        for (int i = 0; i < points; ++i) {
-            x.push_back(static_cast<float>(i));
-        }
-        return project.addAnalysis(name, QStringLiteral("pyrolysis"), TAnalysisData(x, x));
+    static const VKObject2Analysis* addTo(TechDB::TDatabase& project, const QString& name) {
+        return project.addAnalysis(name, "pyrolysis", {{0, 1}, {0, 1}});
     }
-    const VKObject2Analysis* add(const QString& name, int points = 2) {
-        return addAnalysis(*database, name, points);
-    }
+    const VKObject2Analysis* add(const QString& name) { return addTo(*database, name); }
     const VKObject2Well* addDataset(const QString& name, const QStringList& samples) {
         const VKObject2Well* const well = database->addWell(name);
         for (const QString& sample : samples) {
@@ -52,8 +46,9 @@ protected:
         }
         return well;
     }
+    void remove(const QString& name) { database->removeAnalysis(database->getAnalysis(name)->key()); }
 
-    QTreeView& view() const { return *tree.findChild<QTreeView*>(); }
+    ProjectView& view() const { return *tree.findChild<ProjectView*>(); }
     QAbstractItemModel& shown() const { return *view().model(); }
     QLineEdit& filter() const { return *tree.findChild<QLineEdit*>(); }
 
@@ -62,11 +57,13 @@ protected:
         QStringList list;
         if (parent.isValid()) {
             dynamic_cast<ProjectTreeModel&>(shown()).readRest(parent);
+        } else {
+            settle();
         }
         for (int row = 0; row < shown().rowCount(parent); ++row) {
             const QModelIndex index = shown().index(row, 0, parent);
             list.append(indent + index.data().toString());
-            list.append(names(index, indent + QLatin1Char('.')));
+            list.append(names(index, indent + '.'));
         }
         return list;
     }
@@ -97,4 +94,5 @@ protected:
     std::unique_ptr<TechDB::TDatabase> database;
     VKError::Handler former;
     ProjectTree tree;
+    QAbstractItemModelTester tester{&shown(), QAbstractItemModelTester::FailureReportingMode::Warning};
 };

@@ -1,13 +1,14 @@
-#include "ProjectView.h"
 #include "Transaction.h"
 #include "TreeFixture.h"
-
-#include <QScrollBar>
 
 namespace {
 
 constexpr int page = ProjectPages::pageSize;
 constexpr int count = 3 * page;
+
+QString numbered(const char* text, int number) {
+    return QString("%1 %2").arg(text).arg(number);
+}
 
 /// A tree of more than is read at once, in both sections.
 class PagesTest : public TreeTest {
@@ -15,12 +16,11 @@ protected:
     PagesTest() {
         TechDB::Transaction transaction(*database);
         for (int i = 1; i <= count; ++i) {
-            add(QStringLiteral("a %1").arg(i));
-            addDataset(QStringLiteral("d %1").arg(i), {QStringLiteral("of %1").arg(i)});
+            add(numbered("a", i));
+            addDataset(numbered("d", i), {numbered("of", i)});
         }
         transaction.commit();
         settle();
-        view().setFocus();
     }
 
     QModelIndex section(int row) const { return shown().index(row, 0); }
@@ -41,19 +41,17 @@ protected:
 };
 
 TEST_F(PagesTest, what_is_shown_is_read_and_the_next_rows_when_they_come_near) {
-    QAbstractItemModelTester tester(&shown(), QAbstractItemModelTester::FailureReportingMode::Warning);
     EXPECT_EQ(read(0), page);
     EXPECT_EQ(read(1), page);
     EXPECT_EQ(shown().rowCount(shown().index(0, 0, section(0))), 0);
     EXPECT_TRUE(shown().hasChildren(shown().index(0, 0, section(0))));
     scrollTo(shown().index(page / 2, 0, section(0)));
     EXPECT_EQ(read(0), page) << "not before it has to be";
-    const QString lastOfPage = last(0).data().toString();
+    EXPECT_EQ(last(0).data().toString(), numbered("d", page));
     scrollTo(last(0));
     EXPECT_EQ(read(0), 2 * page);
     EXPECT_EQ(read(1), page);
-    EXPECT_EQ(lastOfPage, QStringLiteral("d %1").arg(page));
-    EXPECT_EQ(last(0).data().toString(), QStringLiteral("d %1").arg(2 * page));
+    EXPECT_EQ(last(0).data().toString(), numbered("d", 2 * page));
     view().expand(shown().index(1, 0, section(0)));
     EXPECT_EQ(shown().index(0, 0, shown().index(1, 0, section(0))).data().toString(), "of 2");
 }
@@ -61,20 +59,20 @@ TEST_F(PagesTest, what_is_shown_is_read_and_the_next_rows_when_they_come_near) {
 TEST_F(PagesTest, selecting_all_takes_what_was_not_read) {
     QTest::keyClick(&view(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(tree.selectedObjects().size(), 2 * count);
-    EXPECT_EQ(selectedNames().last(), QStringLiteral("a %1").arg(count));
+    EXPECT_EQ(selectedNames().last(), numbered("a", count));
 }
 
 TEST_F(PagesTest, the_end_is_the_end_of_all) {
     view().setCurrentIndex(loaded("a 10"));
     QTest::keyClick(&view(), Qt::Key_End, Qt::ShiftModifier);
-    EXPECT_EQ(currentName(), QStringLiteral("a %1").arg(count));
+    EXPECT_EQ(currentName(), numbered("a", count));
     EXPECT_EQ(tree.selectedObjects().size(), count - 9);
-    QTest::keyClicks(&view(), QStringLiteral("d 7"));
+    QTest::keyClicks(&view(), "d 7");
     EXPECT_EQ(currentName(), "d 7");
 }
 
 TEST_F(PagesTest, a_range_over_the_end_of_what_was_read_takes_the_rest) {
-    view().setCurrentIndex(loaded(QStringLiteral("d %1").arg(page), 0));
+    view().setCurrentIndex(loaded(numbered("d", page), 0));
     view().scrollTo(loaded("a 3"));
     QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::ShiftModifier,
                       view().visualRect(loaded("a 3")).center());
@@ -82,13 +80,12 @@ TEST_F(PagesTest, a_range_over_the_end_of_what_was_read_takes_the_rest) {
 }
 
 TEST_F(PagesTest, the_filter_finds_what_was_not_read_and_leaves_it_in_its_place) {
-    const QString far = QStringLiteral("a %1").arg(2 * page + 7);
+    const QString far = numbered("a", 2 * page + 7);
+    filter().setText(numbered("OF", 2 * page + 7));
+    EXPECT_EQ(names(), QStringList({"Datasets", '.' + numbered("d", 2 * page + 7),
+                                    ".." + numbered("of", 2 * page + 7)}));
     filter().setText(far);
-    EXPECT_EQ(names(), QStringList({"Analyses", "." + far}));
-    filter().setText(QStringLiteral("OF %1").arg(2 * page + 7));
-    EXPECT_EQ(names(), QStringList({"Datasets", QStringLiteral(".d %1").arg(2 * page + 7),
-                                    QStringLiteral("..of %1").arg(2 * page + 7)}));
-    filter().setText(far);
+    EXPECT_EQ(names(), QStringList({"Analyses", '.' + far}));
     view().setCurrentIndex(shown().index(0, 0, section(0)));
     filter().clear();
     EXPECT_EQ(currentName(), far);
@@ -99,35 +96,33 @@ TEST_F(PagesTest, the_filter_finds_what_was_not_read_and_leaves_it_in_its_place)
 }
 
 TEST_F(PagesTest, changes_elsewhere_leave_as_much_read_and_what_is_selected_selected) {
-    QAbstractItemModelTester tester(&shown(), QAbstractItemModelTester::FailureReportingMode::Warning);
     const qint64 moved = database->getAnalysis("a 5")->key();
     view().setCurrentIndex(loaded("a 6"));
     view().selectionModel()->select(loaded("a 5"), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     for (int i = 0; i < 3; ++i) {
-        add(QStringLiteral("a 7 %1").arg(i));
-        database->removeAnalysis(database->getAnalysis(QStringLiteral("a %1").arg(20 + i))->key());
+        add(numbered("a 7", i));
+        remove(numbered("a", 20 + i));
         settle();
     }
     EXPECT_EQ(read(1), page);
     EXPECT_TRUE(loaded("a 7 2").isValid());
     EXPECT_FALSE(loaded("a 21").isValid());
-    database->renameAnalysis(moved, QStringLiteral("a %1 b").arg(2 * page));
+    database->renameAnalysis(moved, numbered("a", 2 * page) + " b");
     settle();
-    EXPECT_EQ(selectedNames(), QStringList({"a 6", QStringLiteral("a %1 b").arg(2 * page)}));
+    EXPECT_EQ(selectedNames(), QStringList({"a 6", numbered("a", 2 * page) + " b"}));
     EXPECT_LT(read(1), count);
 }
 
 TEST_F(PagesTest, what_another_window_moves_while_pages_are_read_is_there_once) {
-    QAbstractItemModelTester tester(&shown(), QAbstractItemModelTester::FailureReportingMode::Warning);
     const auto other = TechDB::TDatabase::open(path());
-    other->renameAnalysis(other->getAnalysis("a 5")->key(), QStringLiteral("a %1 b").arg(page + 1));
+    other->renameAnalysis(other->getAnalysis("a 5")->key(), numbered("a", page + 1) + " b");
     other->removeAnalysis(other->getAnalysis("a 6")->key());
     EXPECT_EQ(names().filter("a ").size(), count);
     tree.refresh();
     QStringList found = names().filter(".a ");
     EXPECT_EQ(found.size(), count - 1);
     EXPECT_EQ(found.removeDuplicates(), 0);
-    EXPECT_EQ(found.at(page - 1), QStringLiteral(".a %1 b").arg(page + 1));
+    EXPECT_EQ(found.at(page - 1), '.' + numbered("a", page + 1) + " b");
 }
 
 } // namespace
