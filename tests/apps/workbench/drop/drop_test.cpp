@@ -1,4 +1,6 @@
 #include "DropDialog.h"
+#include "FileSorter.h"
+#include "FolderWalk.h"
 #include "ImportOutcomes.h"
 #include "MessageLogModel.h"
 #include "ModalAnswers.h"
@@ -13,29 +15,33 @@
 #include <QDir>
 #include <QFile>
 #include <QMimeData>
-#include <QPushButton>
 #include <QUrl>
+
+#include <sys/stat.h>
 
 namespace {
 
-class Intake : public WorkbenchFixture {
+class Drop : public WorkbenchFixture {
 protected:
     using Kind = ImportModules::Kind;
 
-    Intake() {
-        QDir().mkpath(path("lab/tables"));
-        workbench->projects().create(path("open.vornproj"));
-    }
+    Drop() { workbench->projects().create(path("open.vornproj")); }
 
-    QString example(const QString& name, const QString& as) const {
-        QFile::copy(QStringLiteral(VORN_EXAMPLES "/") + name, path("lab/" + as));
-        return path("lab/" + as);
-    }
     QString write(const QString& name, const QByteArray& content) const {
         QFile file(path("lab/" + name));
+        QDir().mkpath(QFileInfo(file).path());
         file.open(QIODevice::WriteOnly);
         file.write(content);
         return file.fileName();
+    }
+    QString example(const QString& name, const QString& as) const {
+        QFile file(VORN_EXAMPLES "/" + name);
+        file.open(QIODevice::ReadOnly);
+        return write(as, file.readAll());
+    }
+    QString otherProject() const {
+        QDir().mkpath(path("lab"));
+        return TechDB::TDatabase::create(path("lab/other.vornproj"))->path();
     }
     void drop(const QStringList& paths) {
         QMimeData data;
@@ -62,11 +68,18 @@ protected:
         }
         return found;
     }
+    QStringList namesIn(const FolderWalk& walk) const {
+        QStringList names;
+        for (const QString& each : walk.files()) {
+            names.append(QDir(path("lab")).relativeFilePath(each));
+        }
+        return names;
+    }
 };
 
 } // namespace
 
-TEST_F(Intake, a_folder_of_everything_dropped_on_the_window_is_imported_and_each_file_is_accounted_for) {
+TEST_F(Drop, a_folder_of_everything_dropped_on_the_window_is_imported_and_each_file_is_accounted_for) {
     example("good-clean-01.S00", "curve.S00");
     example("good-clean-01.R00", "curve.R00");
     example("tables/gas.xlsx", "tables/gas.xlsx");
@@ -74,7 +87,7 @@ TEST_F(Intake, a_folder_of_everything_dropped_on_the_window_is_imported_and_each
     write("damaged.xlsx", "PK\3\4 and no more");
     write("notes <b>.txt", "to do");
     write("fake.S00", "no raw file");
-    ASSERT_NE(TechDB::TDatabase::create(path("lab/other.vornproj")), nullptr);
+    otherProject();
 
     ModalAnswers answers;
     drop({path("lab")});
@@ -99,10 +112,8 @@ TEST_F(Intake, a_folder_of_everything_dropped_on_the_window_is_imported_and_each
     EXPECT_EQ(workspace().findChildren<TableView*>().size(), 1) << "in the place of the first list";
 }
 
-TEST_F(Intake, what_is_chosen_in_the_dialog_is_done_and_a_project_is_opened_before_it) {
-    const QString table = example("tables/gas.xlsx", "gas.xlsx");
-    const QString other = path("lab/other.vornproj");
-    TechDB::TDatabase::create(other);
+TEST_F(Drop, what_is_chosen_in_the_dialog_is_done_and_a_project_is_opened_before_it) {
+    const QString other = otherProject();
     ModalAnswers answers;
     answers.setObserver([](QWidget& asked) {
         if (auto* const dialog = dynamic_cast<DropDialog*>(&asked)) {
@@ -112,15 +123,14 @@ TEST_F(Intake, what_is_chosen_in_the_dialog_is_done_and_a_project_is_opened_befo
             boxes[1]->setCurrentText("Open other.vornproj");
         }
     });
-    drop({table, other});
+    drop({example("tables/gas.xlsx", "gas.xlsx"), other});
     EXPECT_EQ(project().path(), other);
     EXPECT_NE(project().getWell("Custom import-gas.xlsx"), nullptr);
     EXPECT_EQ(outcomes().value("other.vornproj"), "imported: The project was opened.");
 }
 
-TEST_F(Intake, a_project_alone_is_opened_without_a_question_and_strangers_alone_are_only_told) {
-    const QString other = path("lab/other.vornproj");
-    TechDB::TDatabase::create(other);
+TEST_F(Drop, a_project_alone_is_opened_without_a_question_and_strangers_alone_are_only_told) {
+    const QString other = otherProject();
     ModalAnswers answers;
     drop({other});
     EXPECT_EQ(project().path(), other);
@@ -128,31 +138,22 @@ TEST_F(Intake, a_project_alone_is_opened_without_a_question_and_strangers_alone_
     EXPECT_EQ(answers.asked(), QStringList());
     EXPECT_EQ(outcomes().size(), 2);
     EXPECT_TRUE(outcomes()["gone.S00"].contains("does not exist"));
+    workbench->projects().close();
+    drop({example("good-clean-01.S00", "curve.S00")});
+    EXPECT_TRUE(outcomes()["curve.S00"].contains("open or make one")) << "without a project";
 }
 
-TEST_F(Intake, a_modules_own_button_also_tells_of_the_files_that_it_leaves_waiting_without_a_word) {
+TEST_F(Drop, what_is_not_imported_is_told_whoever_left_it_and_when_all_went_well_nothing) {
     const QString curve = example("good-clean-01.S00", "curve.S00");
     const QString table = example("tables/gas.xlsx", "gas.xlsx");
-    ModalAnswers answers;
-    workbench->imports().importFiles(Kind::Gas, {curve, table});
-    EXPECT_TRUE(outcomes()["gas.xlsx"].startsWith("imported"));
-    EXPECT_TRUE(outcomes()["curve.S00"].contains("doesn't take files of this kind"));
+    ModalAnswers answers({"Cancel"});
+    workbench->imports().importFiles(Kind::Custom, {table});
+    EXPECT_TRUE(outcomes()["gas.xlsx"].startsWith("skipped: Nothing was stored")) << "its wizard was closed";
     workspace().closePages();
     workbench->imports().importFiles(Kind::SourceRock, {curve});
-    EXPECT_TRUE(outcomes().isEmpty()) << "all went well: the module and the messages say so";
-}
-
-TEST_F(Intake, a_wizard_that_is_closed_stores_nothing_and_the_list_says_so) {
-    ModalAnswers answers({"Cancel"});
-    workbench->imports().importFiles(Kind::Custom, {example("tables/custom.xlsx", "custom.xlsx")});
-    EXPECT_TRUE(outcomes()["custom.xlsx"].startsWith("skipped: Nothing was stored"));
-}
-
-TEST_F(Intake, without_a_project_nothing_is_imported_and_the_list_says_what_to_do) {
-    workbench->projects().close();
-    ModalAnswers answers;
-    drop({example("good-clean-01.S00", "curve.S00")});
-    EXPECT_TRUE(outcomes()["curve.S00"].contains("open or make one"));
+    EXPECT_TRUE(outcomes().isEmpty()) << "the module and the messages say so";
+    workbench->imports().importFiles(Kind::Gas, {curve, table});
+    EXPECT_TRUE(outcomes()["curve.S00"].contains("doesn't take files of this kind"));
 }
 
 TEST(ImportOutcomes, account_for_every_file_even_if_its_pass_never_ends) {
@@ -173,4 +174,55 @@ TEST(ImportOutcomes, account_for_every_file_even_if_its_pass_never_ends) {
     told.clear();
     outcomes.passEnded({{"b", 1}});
     EXPECT_TRUE(told.isEmpty()) << "of a pass that is over";
+}
+
+TEST(Sorter, tables_go_to_the_module_that_knows_most_of_their_columns_in_either_language_and_format) {
+    const auto kindOf = [](const QString& name) { return FileSorter::sort(VORN_EXAMPLES "/" + name).kind; };
+    for (const QString suffix : {".xlsx", ".xls"}) {
+        EXPECT_EQ(kindOf("tables/source-rock" + suffix), FileKind::SourceRockTable);
+        EXPECT_EQ(kindOf("tables/source-rock-french" + suffix), FileKind::SourceRockTable);
+        EXPECT_EQ(kindOf("tables/gas" + suffix), FileKind::GasTable);
+        EXPECT_EQ(kindOf("tables/custom" + suffix), FileKind::OtherTable);
+    }
+    EXPECT_EQ(kindOf("good-trailing-tabs-01.s00"), FileKind::Raw);
+    EXPECT_EQ(kindOf("good-clean-01.R00"), FileKind::Raw);
+}
+
+TEST_F(Drop, names_that_lie_are_seen_through_and_every_stranger_is_told_why_and_what_to_do) {
+    const std::tuple<const char*, QByteArray, const char*> strangers[] = {
+        {"renamed.txt", "[Curves pyro]\r\n0\t100\t5\r\n", ".S00"},
+        {"fake.xlsx", "no workbook", "no Excel workbook"},
+        {"fake.S00", QByteArray("\0\1\2", 3), "square brackets"},
+        {"fake.vornproj", "no database", "no project"},
+        {"table.csv", "a,b\n1,2\n", ".xlsx"},
+        {"all.zip", "PK\3\4", "unpack"},
+        {"~$open.xlsx", "user", "open workbook"},
+        {"empty.S00", "", "empty"},
+        {"photo.png", "\x89PNG", "no module"},
+    };
+    for (const auto& [name, content, reason] : strangers) {
+        EXPECT_TRUE(FileSorter::sort(write(name, content)).reason.contains(reason)) << name;
+    }
+    EXPECT_EQ(FileSorter::sort(write("damaged.xlsx", "PK\3\4 and no more")).kind, FileKind::OtherTable)
+        << "its import tells what is wrong";
+}
+
+TEST_F(Drop, a_walk_takes_each_file_once_in_natural_order_and_ends_in_links_pipes_and_limits) {
+    for (const char* name : {"b/curve10.S00", "b/curve2.S00", "b/.hidden", "a.txt"}) {
+        write(name, "x");
+    }
+    QDir().mkpath(path("lab/b/nothing"));
+    QFile::link(path("lab"), path("lab/b/up")); // a walk that followed it wouldn't end
+    ASSERT_EQ(mkfifo(QFile::encodeName(path("lab/b/pipe")).constData(), 0600), 0);
+
+    const FolderWalk walk({path("lab/b/curve10.S00"), path("lab")});
+    EXPECT_EQ(namesIn(walk), QStringList({"b/curve10.S00", "a.txt", "b/curve2.S00", "b/pipe"}));
+    ASSERT_EQ(walk.refused().size(), 2);
+    EXPECT_TRUE(walk.refused()[0].reason.contains("empty"));
+    EXPECT_TRUE(walk.refused()[1].reason.contains("link"));
+    EXPECT_TRUE(FileSorter::sort(path("lab/b/pipe")).reason.contains("no regular file"));
+
+    const FolderWalk limited({path("lab")}, 2);
+    EXPECT_EQ(limited.files().size(), 2);
+    EXPECT_TRUE(limited.refused().last().reason.contains("looked at")) << "the limit is told";
 }
