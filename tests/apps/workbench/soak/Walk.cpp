@@ -45,55 +45,64 @@ void settle() {
     }
 }
 
+QLineEdit& filterOf(Workbench& workbench) {
+    return *workbench.window().tree().findChild<QLineEdit*>();
+}
+
 } // namespace
 
+// Another order or weight makes another walk of the same seed.
 const Walk::Act Walk::acts[] = {
-    {"open a project", &Walk::openProject},
-    {"open the example", &Walk::openExample},
-    {"close the project", &Walk::closeProject},
-    {"import files", &Walk::importFiles},
-    {"import files", &Walk::importFiles},
-    {"list files", &Walk::listFiles},
-    {"start a module", &Walk::startModule},
-    {"close a module", &Walk::closeModule},
-    {"open the quality check", &Walk::openCheck},
-    {"send analyses", &Walk::send},
-    {"send analyses", &Walk::send},
-    {"drag from the tree", &Walk::dragFromTree},
-    {"select in the check", &Walk::selectInCheck},
-    {"select in the check", &Walk::selectInCheck},
-    {"move a slider", &Walk::moveSlider},
-    {"move a slider", &Walk::moveSlider},
-    {"open the results", &Walk::openResults},
-    {"filter the tree", &Walk::filterTree},
-    {"select in the tree", &Walk::selectInTree},
-    {"select in the tree", &Walk::selectInTree},
-    {"open branches", &Walk::openBranches},
-    {"rename in the tree", &Walk::renameInTree},
-    {"run a command of the tree", &Walk::runTreeCommand},
-    {"run an entry of a menu", &Walk::runMenuEntry},
-    {"run an entry of a menu", &Walk::runMenuEntry},
-    {"close a page", &Walk::closePage},
-    {"speak another language", &Walk::speak},
-    {"put on another look", &Walk::dress},
-    {"resize", &Walk::resize},
-    {"fiddle", &Walk::fiddle},
-    {"fiddle", &Walk::fiddle},
-    {"fiddle", &Walk::fiddle},
-    {"fiddle", &Walk::fiddle},
+    {"open a project", 1, [](Walk& walk) { walk.openProject(); }},
+    {"open the example", 1, [](Walk& walk) { walk.m_workbench.projectCommands().openExample(); }},
+    {"close the project", 1, [](Walk& walk) { walk.closeProject(); }},
+    {"import files", 2, [](Walk& w) { w.m_workbench.imports().importFiles(w.someKind(), w.someFiles()); }},
+    {"list files", 1, [](Walk& walk) { walk.listFiles(); }},
+    {"start a module", 1, [](Walk& walk) { walk.m_workbench.imports().start(walk.someKind()); }},
+    {"close a module", 1, [](Walk& walk) { walk.m_workbench.window().ribbon().closeCurrentBar(); }},
+    {"open the quality check", 1, [](Walk& walk) { walk.m_workbench.qualityCheck().start(); }},
+    {"send analyses", 2, [](Walk& walk) { walk.send(); }},
+    {"drag from the tree", 1, [](Walk& walk) { walk.dragFromTree(); }},
+    {"select in the check", 2, [](Walk& walk) { walk.selectInCheck(); }},
+    {"move a slider", 2, [](Walk& walk) { walk.moveSlider(); }},
+    {"open the results", 1, [](Walk& walk) { walk.openResults(); }},
+    {"filter the tree", 1, [](Walk& walk) { filterOf(walk.m_workbench).setText(walk.m_chance.text()); }},
+    {"select in the tree", 2, [](Walk& walk) { walk.selectInTree(); }},
+    {"open branches", 1, [](Walk& walk) { walk.openBranches(); }},
+    {"rename in the tree", 1, [](Walk& walk) { walk.renameInTree(); }},
+    {"run a command of the tree", 1, [](Walk& walk) { walk.runTreeCommand(); }},
+    {"run an entry of a menu", 2, [](Walk& walk) { walk.runMenuEntry(); }},
+    {"close a page", 1, [](Walk& walk) { walk.closePage(); }},
+    {"speak another language", 1, [](Walk& walk) { walk.speak(); }},
+    {"put on another look", 1, [](Walk& walk) { walk.dress(); }},
+    {"resize", 1,
+     [](Walk& w) { w.m_workbench.window().resize(w.m_chance.below(1600), w.m_chance.below(1200)); }},
+    {"fiddle", 4, [](Walk& walk) { walk.fiddle(); }},
 };
 
 Walk::Walk(Workbench& workbench, const Places& places, unsigned seed)
     : m_workbench(workbench), m_places(places), m_chance(seed), m_hands(m_chance),
       m_answers(m_chance, places.output.path()) {}
 
+const Walk::Act& Walk::someAct() {
+    int weights = 0;
+    for (const Act& act : acts) {
+        weights += act.weight;
+    }
+    const Act* act = std::begin(acts);
+    for (int place = m_chance.below(weights); place >= act->weight; ++act) {
+        place -= act->weight;
+    }
+    return *act;
+}
+
 const char* Walk::step() {
-    const Act& act = acts[m_chance.below(static_cast<int>(std::size(acts)))];
+    const Act& act = someAct();
     if (qEnvironmentVariableIsSet("VORN_SOAK_TRAIL")) {
         qInfo("%s", act.name);
     }
     try {
-        (this->*act.run)();
+        act.run(*this);
     } catch (const VKError& error) {
         VKError::dispatchError(error); // as the command that stands for this call does
     }
@@ -111,7 +120,7 @@ void Walk::tidyUp(Workbench& workbench) {
     }
     workbench.projects().close();
     workbench.window().workspace().closePages(); // such as the guide, when no project was open
-    workbench.window().tree().findChild<QLineEdit*>()->clear();
+    filterOf(workbench).clear();
     workbench.language().choose(LanguageSwitch::Language::English);
     workbench.look().choose(LookSwitch::Scheme::Light);
     workbench.window().resize(1000, 700);
@@ -150,36 +159,16 @@ void Walk::openProject() {
     }
 }
 
-void Walk::openExample() {
-    m_workbench.projectCommands().openExample();
-}
-
 void Walk::closeProject() {
     if (m_chance.oneIn(3)) {
         m_workbench.projects().close();
     }
 }
 
-void Walk::importFiles() {
-    m_workbench.imports().importFiles(someKind(), someFiles());
-}
-
 void Walk::listFiles() {
     const ImportModules::Kind kind = someKind();
     m_workbench.imports().start(kind);
     emit dynamic_cast<VornEditor*>(m_workbench.imports().bar(kind))->filesDropped(someFiles());
-}
-
-void Walk::startModule() {
-    m_workbench.imports().start(someKind());
-}
-
-void Walk::closeModule() {
-    m_workbench.window().ribbon().closeCurrentBar();
-}
-
-void Walk::openCheck() {
-    m_workbench.qualityCheck().start();
 }
 
 void Walk::send() {
@@ -243,10 +232,6 @@ void Walk::openResults() {
     }
 }
 
-void Walk::filterTree() {
-    m_workbench.window().tree().findChild<QLineEdit*>()->setText(m_chance.text());
-}
-
 void Walk::selectInTree() {
     const QAbstractItemModel& model = *tree().model();
     const QModelIndex branch = model.index(m_chance.below(qMax(1, model.rowCount())), 0);
@@ -306,10 +291,6 @@ void Walk::speak() {
 void Walk::dress() {
     m_workbench.look().choose(
         m_chance.oneOf({LookSwitch::Scheme::Light, LookSwitch::Scheme::Dark, LookSwitch::Scheme::Desktop}));
-}
-
-void Walk::resize() {
-    m_workbench.window().resize(m_chance.below(1600), m_chance.below(1200));
 }
 
 void Walk::fiddle() {

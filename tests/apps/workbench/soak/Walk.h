@@ -31,24 +31,19 @@ public:
 private:
     struct Act {
         const char* name;
-        void (Walk::*run)();
+        int weight; ///< how often it comes, beside the others
+        void (*run)(Walk& walk);
     };
     static const Act acts[];
 
     void openProject();
-    void openExample();
     void closeProject();
-    void importFiles();
     void listFiles();
-    void startModule();
-    void closeModule();
-    void openCheck();
     void send();
     void dragFromTree();
     void selectInCheck();
     void moveSlider();
     void openResults();
-    void filterTree();
     void selectInTree();
     void openBranches();
     void renameInTree();
@@ -57,9 +52,9 @@ private:
     void closePage();
     void speak();
     void dress();
-    void resize();
     void fiddle();
 
+    const Act& someAct();
     QStringList someFiles();
     ImportModules::Kind someKind();
     QTreeView& tree();

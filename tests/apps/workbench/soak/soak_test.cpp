@@ -1,6 +1,7 @@
 #include "Application.h"
 #include "ExampleProject.h"
 #include "ExpectedWarning.h"
+#include "MessageCollector.h"
 #include "TavrelStyle.h"
 #include "VKDatabaseVornMGR.h"
 #include "Walk.h"
@@ -10,11 +11,14 @@
 
 #include <QElapsedTimer>
 #include <QPixmapCache>
+#include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 #include <malloc.h>
@@ -163,6 +167,33 @@ TEST_F(Soak, whatever_a_user_does_nothing_breaks_and_nothing_is_left) {
     EXPECT_LE(growth(&Trace::widgets), keptByTabBar);
     EXPECT_LE(growth(&Trace::objects), mostRecentProjects);
     EXPECT_LE(growth(&Trace::heap), warmingUp + perRound * static_cast<double>(third));
+}
+
+TEST(LastNet, what_leaves_a_slot_is_logged_and_the_window_lives_on) {
+    MessageCollector log;
+    MessageLoggerInterface::setDefaultLogger(&log);
+#if defined(__SANITIZE_ADDRESS__)
+    const __lsan::ScopedDisabler guardsOfQt; // which an exception does not unwind: a few bytes each
+#endif
+    QPushButton button;
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, [&clicks] {
+        if (++clicks == 1) {
+            throw std::runtime_error("the <b>curve</b> has no end");
+        }
+        if (clicks == 2) {
+            throw 3;
+        }
+    });
+    button.show();
+    for (int i = 0; i < 3; ++i) {
+        QTest::mouseClick(&button, Qt::LeftButton);
+    }
+    EXPECT_EQ(clicks, 3);
+    const QStringList errors = log.messages(MessageLevel::Error);
+    MessageLoggerInterface::setDefaultLogger(nullptr);
+    ASSERT_EQ(errors.size(), 2);
+    EXPECT_TRUE(errors[0].contains("the &lt;b&gt;curve&lt;/b&gt; has no end")) << errors[0].toStdString();
 }
 
 int main(int argc, char** argv) {

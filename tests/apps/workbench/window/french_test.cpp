@@ -44,13 +44,11 @@ void addModel(const QAbstractItemModel* model, Texts& texts) {
 }
 
 void addWidget(const QWidget& widget, Texts& texts) {
-    texts += {widget.windowTitle(), widget.toolTip(),        widget.statusTip(),
-              widget.whatsThis(),   widget.accessibleName(), widget.accessibleDescription()};
-    for (const char* const name :
-         {"text", "title", "placeholderText", "prefix", "suffix", "specialValueText", "informativeText"}) {
-        if (qobject_cast<const QLineEdit*>(&widget) == nullptr || qstrcmp(name, "text") != 0) {
-            texts += widget.property(name).toString();
-        }
+    const bool isTyped = qobject_cast<const QLineEdit*>(&widget) != nullptr;
+    for (const char* const name : {"windowTitle", "toolTip", "statusTip", "whatsThis", "accessibleName",
+                                   "accessibleDescription", "title", "placeholderText", "prefix", "suffix",
+                                   "specialValueText", "informativeText", isTyped ? "" : "text"}) {
+        texts += widget.property(name).toString();
     }
     if (const auto* const tabs = qobject_cast<const QTabBar*>(&widget)) {
         for (int index = 0; index < tabs->count(); ++index) {
@@ -68,38 +66,31 @@ void addWidget(const QWidget& widget, Texts& texts) {
     }
 }
 
-/// All that the window and whatever is open can say at this moment.
-void addAll(Texts& texts) {
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (const QWidget* const widget : widgets) {
-        addWidget(*widget, texts);
-    }
-}
-
 class French : public WorkbenchFixture {
 protected:
-    void drop(const QString& answer) {
-        ModalAnswers answers({answer});
-        answers.setObserver([this](QWidget&) { addAll(m_texts); });
-        workbench->intake().take({path("lab")});
-        settle();
-        addAll(m_texts);
+    /// All that the window and whatever is open can say at this moment.
+    void addAll() {
+        for (const QWidget* const widget : QApplication::allWidgets()) {
+            addWidget(*widget, texts);
+        }
     }
-    void trigger(const QAction* action) {
-        ModalAnswers answers({"Cancel", "Annuler"});
-        answers.setObserver([this](QWidget&) { addAll(m_texts); });
-        const_cast<QAction*>(action)->trigger();
+    template <class Act>
+    void answering(const QStringList& answers, const Act& act) {
+        ModalAnswers modal(answers);
+        modal.setObserver([this](QWidget&) { addAll(); });
+        act();
         settle();
+        addAll();
     }
     /// One visit of everything, in one language.
     Texts visit(LanguageSwitch::Language language, const QStringList& answers) {
         start();
-        m_texts.clear();
+        texts.clear();
         workbench->language().choose(language);
         workbench->projects().create(path("lab.vornproj"), &ExampleProject::fill);
         workbench->qualityCheck().exportForLearning(); // before it is open
         for (const QString& answer : answers) {
-            drop(answer);
+            answering({answer}, [this] { workbench->intake().take({path("lab")}); });
         }
         tree().findChild<QAbstractItemView*>()->selectAll();
         tree().sendAction()->trigger();
@@ -107,23 +98,22 @@ protected:
         workbench->qualityCheck().bar()->slotEventOccured(ModuleObserver::dataEditorAction);
         ApplicationInterface::returnMe()->showHelp(0);
         settle();
-        addAll(m_texts);
-        trigger(workbench->projectCommands().serverAction());
+        addAll();
+        answering({"Cancel", "Annuler"}, [this] { workbench->projectCommands().serverAction()->trigger(); });
         QMetaObject::invokeMethod(workbench->window().findChild<QMenu*>(), "aboutToShow");
-        addAll(m_texts);
-        addModel(&workbench->log(), m_texts);
-        return m_texts;
+        addAll();
+        addModel(&workbench->log(), texts);
+        return texts;
     }
 
-    Texts m_texts;
+    Texts texts;
 };
 
 /// What stands in a workbook is the user's, whatever language the window speaks.
 QStringList cellsOf(const QStringList& workbooks) {
     QStringList cells;
     for (const QString& path : workbooks) {
-        const Workbook::Book book = WorkbookReader::read(TFileBuffer(path, true).data(), path);
-        for (const Workbook::Sheet& sheet : book.sheets) {
+        for (const auto& sheet : WorkbookReader::read(TFileBuffer(path, true).data(), path).sheets) {
             cells += sheet.name;
             for (const auto& row : sheet.rows) {
                 for (const QVariant& cell : row) {

@@ -1,13 +1,11 @@
 #include "ExampleProject.h"
+#include "Guide.h"
 #include "HelpId.h"
 #include "HelpPage.h"
 #include "LogPanel.h"
 #include "ProjectTree.h"
 #include "TDatabase.h"
-#include "TableView.h"
-#include "VKDataModel.h"
 #include "VKError.h"
-#include "VKListViewSignal.h"
 #include "VKObject2Analysis.h"
 #include "VKRibbon.h"
 #include "VKRibbonBar.h"
@@ -22,7 +20,8 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
-#include <QMenuBar>
+#include <QMenu>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSplitter>
 #include <QStandardPaths>
@@ -31,11 +30,54 @@
 #include <QToolButton>
 #include <QTreeView>
 
+namespace {
+
+using Language = LanguageSwitch::Language;
 using Window = WorkbenchFixture;
+
+QString heading(const HelpPage& page) {
+    return page.textCursor().block().text();
+}
+
+/// What a guide is built of, whatever its language: its headings, the rows of its tables, and where its links
+/// lead; those within it by the number of the heading, -1 for none.
+struct Shape {
+    QStringList anchors; // of the headings
+    QStringList parts;
+
+    explicit Shape(const QString& text) {
+        for (const QString& line : text.split('\n').filter(QRegularExpression("^#"))) {
+            anchors.append(Guide::anchorOf(line.section(' ', 1)));
+        }
+        static const QRegularExpression part(R"(^#+ |^\||\]\(([^)]*)\))",
+                                             QRegularExpression::MultilineOption);
+        for (auto found = part.globalMatch(text); found.hasNext();) {
+            const auto match = found.next();
+            const QString target = match.captured(1);
+            EXPECT_TRUE(!target.endsWith(".png") || QFile::exists(Guide::folder() + target))
+                << target.toStdString();
+            parts.append(target.isEmpty()         ? match.captured()
+                         : target.startsWith('#') ? QString::number(anchors.indexOf(target.mid(1)))
+                                                  : QString(target).replace(".fr.png", ".png"));
+        }
+    }
+};
+
+class Guides : public WorkbenchFixture {
+protected:
+    Shape shapeIn(Language language) {
+        workbench->language().choose(language);
+        return Shape(Guide::text());
+    }
+    const Shape english = shapeIn(Language::English);
+    const Shape french = shapeIn(Language::French);
+};
+
+} // namespace
 
 TEST_F(Window, remembers_its_size_its_language_and_the_project) {
     workbench->projects().create(path("lab.vornproj"));
-    workbench->language().choose(LanguageSwitch::Language::French);
+    workbench->language().choose(Language::French);
     workbench->window().resize(903, 607);
     const auto columns = [this] { return workbench->window().findChild<QSplitter*>("columns"); };
     columns()->setSizes({250, 600});
@@ -45,7 +87,7 @@ TEST_F(Window, remembers_its_size_its_language_and_the_project) {
     workbench->projectCommands().openAtStart();
     EXPECT_EQ(workbench->window().size(), QSize(903, 607));
     EXPECT_EQ(columns()->sizes(), sizes);
-    EXPECT_EQ(LanguageSwitch::remembered(), LanguageSwitch::Language::French);
+    EXPECT_EQ(LanguageSwitch::remembered(), Language::French);
     EXPECT_TRUE(workbench->window().windowTitle().startsWith("lab "));
     EXPECT_EQ(ProjectMgr::recentProjects(), QStringList(path("lab.vornproj")));
 }
@@ -53,8 +95,7 @@ TEST_F(Window, remembers_its_size_its_language_and_the_project) {
 TEST_F(Window, what_cannot_be_opened_is_named_and_the_open_project_stays) {
     workbench->projects().create(path("lab.vornproj"));
     QFile other(path("other.vornproj"));
-    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
-    other.write("no database at all");
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly) && other.write("no database at all") > 0);
     other.close();
     workbench->projectCommands().openProject(other.fileName());
     ASSERT_EQ(errors().size(), 1);
@@ -96,21 +137,6 @@ TEST_F(Window, the_first_start_makes_the_example_project_and_the_next_finds_it) 
     EXPECT_TRUE(errors().isEmpty());
 }
 
-TEST_F(Window, what_is_selected_in_the_tree_opens_as_a_table_and_goes_to_the_quality_check) {
-    workbench->projects().create(path("lab.vornproj"), &ExampleProject::fill);
-    tree().findChild<QLineEdit*>()->setText("double-clean");
-    tree().findChild<QTreeView*>()->selectAll();
-    tree().openAction()->trigger();
-    const auto* const table = dynamic_cast<const TableView*>(workspace().currentPage());
-    ASSERT_NE(table, nullptr);
-    EXPECT_EQ(table->model()->rowCount(), 1264);
-    EXPECT_EQ(table->windowTitle(), "double-clean-01.S00");
-    tree().sendAction()->trigger();
-    ASSERT_TRUE(workbench->qualityCheck().isOpen());
-    ASSERT_EQ(workbench->qualityCheck().list()->topLevelItemCount(), 1);
-    EXPECT_EQ(workbench->qualityCheck().list()->topLevelItem(0)->background(0).color(), QColor("orange"));
-}
-
 TEST_F(Window, what_another_window_stored_shows_when_one_comes_back) {
     workbench->projects().create(path("lab.vornproj"), &ExampleProject::fill);
     const auto other = TechDB::TDatabase::open(path("lab.vornproj"));
@@ -125,23 +151,8 @@ TEST_F(Window, what_another_window_stored_shows_when_one_comes_back) {
     EXPECT_EQ(tree().selectedObjects().size(), 1);
 }
 
-TEST_F(Window, help_opens_the_guide_at_the_modules_page_and_follows_nothing_outside) {
-    ApplicationInterface::returnMe()->showHelp(HelpId::qualityCheck);
-    settle();
-    auto* const page = dynamic_cast<HelpPage*>(workspace().currentPage());
-    ASSERT_NE(page, nullptr);
-    EXPECT_EQ(page->textCursor().block().text(), "The quality check");
-    EXPECT_FALSE(
-        page->loadResource(QTextDocument::ImageResource, QUrl("http://example.org/a.png")).isValid());
-    EXPECT_FALSE(page->loadResource(QTextDocument::ImageResource, QUrl("file:///etc/passwd")).isValid());
-    emit page->anchorClicked(QUrl("http://example.org"));
-    emit page->anchorClicked(QUrl("#curves"));
-    EXPECT_EQ(page->textCursor().block().text(), "Curves");
-}
-
 TEST_F(Window, f1_turns_the_guide_to_the_page_of_what_has_the_focus_above_a_dialog_as_well) {
     QApplication::setActiveWindow(&workbench->window());
-    const auto heading = [](HelpPage* page) { return page->textCursor().block().text(); };
     const auto f1 = [this](QWidget* focus) {
         focus->setFocus();
         QTest::keyClick(focus, Qt::Key_F1);
@@ -150,13 +161,13 @@ TEST_F(Window, f1_turns_the_guide_to_the_page_of_what_has_the_focus_above_a_dial
     };
     HelpPage* const page = f1(tree().findChild<QTreeView*>());
     ASSERT_NE(page, nullptr);
-    EXPECT_EQ(heading(page), "The project tree");
+    EXPECT_EQ(heading(*page), "The project tree");
     EXPECT_EQ(f1(workbench->window().log().findChild<QAbstractItemView*>()), page)
         << "one guide, which turns";
-    EXPECT_EQ(heading(page), "Messages");
+    EXPECT_EQ(heading(*page), "Messages");
     workbench->imports().start(ImportModules::Kind::Gas);
     f1(workbench->imports().bar(ImportModules::Kind::Gas)->findChild<VKTreeWidget*>());
-    EXPECT_EQ(heading(page), "Importing");
+    EXPECT_EQ(heading(*page), "Importing");
     ApplicationInterface::returnMe()->showHelp(4711);
     settle();
     EXPECT_TRUE(page->textCursor().atStart()) << "no such page: the guide's start";
@@ -170,33 +181,49 @@ TEST_F(Window, f1_turns_the_guide_to_the_page_of_what_has_the_focus_above_a_dial
 }
 
 TEST_F(Window, every_button_of_the_start_tab_is_also_in_a_menu) {
-    QList<const QAction*> inMenus;
-    const QList<QMenu*> menus = workbench->window().findChildren<QMenu*>();
-    for (const QMenu* const menu : menus) {
-        inMenus.append(menu->menuAction());
-        for (const QAction* const action : menu->actions()) {
-            inMenus.append(action);
-        }
+    QList<QAction*> inMenus;
+    for (const QMenu* const menu : workbench->window().findChildren<QMenu*>()) {
+        inMenus += menu->actions() << menu->menuAction();
     }
-    const VKRibbonBar* const bar = workbench->window().ribbon().startBar();
-    const QList<QToolButton*> buttons = bar->findChildren<QToolButton*>();
+    const auto buttons = workbench->window().ribbon().startBar()->findChildren<QToolButton*>();
     ASSERT_GE(buttons.size(), 7);
     for (const QToolButton* const button : buttons) {
         EXPECT_TRUE(inMenus.contains(button->defaultAction())) << button->text().toStdString();
     }
 }
 
-TEST_F(Window, all_menus_speak_french_when_asked_and_english_again) {
-    const auto titles = [this] {
-        QStringList texts;
-        for (const QAction* const menu : workbench->window().menuBar()->actions()) {
-            texts.append(menu->text());
-        }
-        return texts;
+TEST_F(Guides, have_the_same_chapters_pictures_tables_and_links_and_none_leads_nowhere) {
+    ASSERT_GT(english.anchors.size(), 8);
+    EXPECT_EQ(english.parts, french.parts);
+    EXPECT_FALSE(english.parts.contains("-1"));
+}
+
+TEST_F(Guides, have_a_page_for_every_number_and_the_open_one_keeps_its_page_and_follows_nothing_outside) {
+    const auto place = [this](const Shape& shape, Language language, int helpId) {
+        workbench->language().choose(language);
+        return shape.anchors.indexOf(Guide::anchorOf(Guide::headingFor(helpId)));
     };
-    const QStringList english = titles();
-    workbench->language().choose(LanguageSwitch::Language::French);
-    EXPECT_EQ(titles(), QStringList({"&Projet", "&Données", "&Modules", "&Contrôle", "&Affichage", "A&ide"}));
-    workbench->language().choose(LanguageSwitch::Language::English);
-    EXPECT_EQ(titles(), english);
+    for (const int helpId : {HelpId::projects, HelpId::tree, HelpId::wizard, HelpId::curves, HelpId::tables,
+                             HelpId::messages, HelpId::importModules, HelpId::qualityCheck}) {
+        const int inEnglish = place(english, Language::English, helpId);
+        EXPECT_GT(inEnglish, 0) << helpId;
+        EXPECT_EQ(place(french, Language::French, helpId), inEnglish) << helpId;
+    }
+    ApplicationInterface::returnMe()->showHelp(HelpId::qualityCheck);
+    settle();
+    auto* const page = dynamic_cast<HelpPage*>(workspace().currentPage());
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(heading(*page), "Le contrôle qualité");
+    workbench->language().choose(Language::English);
+    settle();
+    EXPECT_EQ(heading(*page), "The quality check");
+    const QTextCursor atTop = page->cursorForPosition(QPoint(40, page->fontMetrics().height()));
+    EXPECT_EQ(atTop.block().text(), "The quality check") << "where one begins to read";
+    for (const char* const outside : {"http://example.org/a.png", "file:///etc/passwd"}) {
+        EXPECT_FALSE(page->loadResource(QTextDocument::ImageResource, QUrl(outside)).isValid());
+    }
+    emit page->anchorClicked(QUrl("http://example.org"));
+    EXPECT_EQ(heading(*page), "The quality check");
+    emit page->anchorClicked(QUrl("#curves"));
+    EXPECT_EQ(heading(*page), "Curves");
 }
