@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 
 namespace {
@@ -19,11 +20,17 @@ struct Parsed {
     std::string err;
 };
 
-Parsed parse(std::vector<const char*> arguments) {
-    arguments.insert(arguments.begin(), "vorn-grade");
+/// As from a shell that knows no quotes.
+Parsed parse(const std::string& line) {
+    std::istringstream stream("vorn-grade " + line);
+    const Paths words{std::istream_iterator<std::string>(stream), {}};
+    std::vector<const char*> arguments;
+    for (const std::string& word : words) {
+        arguments.push_back(word.c_str());
+    }
     std::ostringstream out;
     std::ostringstream err;
-    auto result = grade::parseCommandLine(static_cast<int>(arguments.size()), arguments.data(), out, err);
+    auto result = grade::parseCommandLine(static_cast<int>(words.size()), arguments.data(), out, err);
     return {std::move(result), out.str(), err.str()};
 }
 
@@ -37,8 +44,8 @@ grade::InputFiles findInputFiles(const Paths& paths, const std::string& input = 
 } // namespace
 
 TEST(CommandLine, what_is_given_reaches_the_options) {
-    const auto given = parse({"--sensitivity", "0.25", "--coelution=0", "--height", "3.5", "--format", "JSON",
-                              "--report", "r.html", "--ml", "m.txt", "a", "-"})
+    const auto given = parse("--sensitivity 0.25 --coelution=0 --height 3.5 --format JSON --report r.html "
+                             "--ml m.txt a -")
                            .result.options;
     ASSERT_TRUE(given);
     EXPECT_EQ(given->settings.sensitivity, 0.25);
@@ -51,36 +58,22 @@ TEST(CommandLine, what_is_given_reaches_the_options) {
 }
 
 TEST(CommandLine, wrong_usage_ends_with_2_and_a_text_on_the_error_stream_and_help_with_0) {
-    const std::vector<std::vector<const char*>> wrong = {
-        {},
-        {"--nonsense", "a"},
-        {"--sensitivity", "0", "a"},
-        {"--sensitivity", "1", "a"},
-        {"--sensitivity", "0.9999999", "a"},
-        {"--sensitivity", "nan", "a"},
-        {"--coelution", "-1", "a"},
-        {"--coelution", "inf", "a"},
-        {"--height", "nan", "a"},
-        {"--height", "2x", "a"},
-        {"--height", "", "a"},
-        {"--format", "xml", "a"},
-        {"--language", "de", "a"},
-        {"--report"},
-        {"--skip-done", "done", "a"},
-        {"--skip-done", "done", "--format", "json", "--report", "r.html", "a"},
-        {"--skip-done", "done", "--format", "json", "--ml", "m.txt", "a"},
-    };
-    for (const auto& arguments : wrong) {
+    for (const char* arguments :
+         {"", "--nonsense a", "--sensitivity 0 a", "--sensitivity 1 a", "--sensitivity 0.9999999 a",
+          "--sensitivity nan a", "--coelution -1 a", "--coelution inf a", "--height nan a", "--height 2x a",
+          "--format xml a", "--language de a", "--report", "--skip-done done a",
+          "--skip-done done --format json --report r.html a",
+          "--skip-done done --format json --ml m.txt a"}) {
         const Parsed parsed = parse(arguments);
-        EXPECT_FALSE(parsed.result.options);
+        EXPECT_FALSE(parsed.result.options) << arguments;
         EXPECT_EQ(parsed.result.status, 2);
         EXPECT_FALSE(parsed.err.empty());
         EXPECT_TRUE(parsed.out.empty());
     }
-    const Parsed help = parse({"--help"});
+    const Parsed help = parse("--help");
     EXPECT_EQ(help.result.status, 0);
     EXPECT_FALSE(help.result.options);
-    EXPECT_EQ(parse({"--version"}).out, std::string("vorn-grade ") + grade::version() + "\n");
+    EXPECT_EQ(parse("--version").out, std::string("vorn-grade ") + grade::version() + "\n");
 }
 
 TEST(NaturalOrder, numbers_sort_by_value_and_letters_without_case) {
