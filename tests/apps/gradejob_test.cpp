@@ -1,7 +1,6 @@
 #include "digest.h"
 #include "gradejob.h"
 #include "rockeval/channels.h"
-#include "rockeval/resultreader.h"
 #include "rockeval/signalreader.h"
 #include "sourcerockqaqc/rawsignal.h"
 #include "sourcerockqaqc/srqaqcmngr.h"
@@ -10,7 +9,6 @@
 #include <gtest/gtest.h>
 #include <rapidjson/document.h>
 
-#include <algorithm>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -61,7 +59,7 @@ bool contains(const std::string& text, const std::string& part) {
 
 } // namespace
 
-TEST(Examples, every_curve_has_the_grade_and_the_tops_it_was_built_for_and_those_of_the_table_beside_it) {
+TEST(Examples, every_curve_has_the_grade_and_the_tops_it_was_built_for) {
     const auto lines = jsonLines(run(optionsFor({VORN_EXAMPLES})).out);
     std::map<std::string, const rapidjson::Document*> graded;
     for (const auto& line : lines) {
@@ -71,7 +69,6 @@ TEST(Examples, every_curve_has_the_grade_and_the_tops_it_was_built_for_and_those
     std::string line;
     std::getline(table, line); // the heading
     std::size_t expected = 0;
-    std::size_t compared = 0;
     for (; std::getline(table, line); ++expected) {
         SCOPED_TRACE(line);
         std::istringstream cells(line);
@@ -93,21 +90,9 @@ TEST(Examples, every_curve_has_the_grade_and_the_tops_it_was_built_for_and_those
         for (unsigned i = 0; i < peaks.Size(); ++i) {
             EXPECT_NEAR(peaks[i]["x"].GetDouble(), built[i], 3.0);
         }
-        const std::string results = example(file.substr(0, file.size() - 3) + "R00");
-        if (std::filesystem::exists(results)) {
-            const auto highest =
-                std::max_element(peaks.begin(), peaks.end(), [](const auto& a, const auto& b) {
-                    return a["y"].GetDouble() < b["y"].GetDouble();
-                });
-            const auto read = rockeval::readResultsFile(results);
-            EXPECT_EQ((*highest)["y"].GetDouble(), read.number("Results_1", "VMax_2").value());
-            EXPECT_NEAR((*highest)["x"].GetDouble(), 60.0 * read.number("Results_1", "Time_2").value(), 2.0);
-            ++compared;
-        }
     }
     EXPECT_GE(expected, 24U);
     EXPECT_EQ(lines.size(), expected) << "every raw file stands in the table";
-    EXPECT_GE(compared, 4U);
 }
 
 TEST(GradeJob, a_file_that_cannot_be_read_costs_the_others_nothing) {
