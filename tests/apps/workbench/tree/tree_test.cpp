@@ -98,6 +98,7 @@ TEST_F(TreeTest, takes_nothing_of_one_project_for_the_next_and_says_why_it_is_em
     addDataset("Set", {"one"});
     add("A");
     select({"A"});
+    filter().setText("a");
     const auto next = TechDB::TDatabase::create(folder.filePath("next.vornproj"));
     addTo(*next, "N");
     tree.setProject(next.get());
@@ -120,6 +121,7 @@ TEST_F(TreeTest, filter_keeps_hits_in_either_case_with_what_they_belong_to) {
     addDataset("Other", {"basin 2", "x"});
     add("BASIN 7");
     add("well");
+    view().expand(find("Basin"));
     select({"well", "BASIN 7"});
     QTest::keyClicks(&filter(), "basin");
     EXPECT_EQ(names(), QStringList({"Datasets", ".Basin", "..north", "..south", ".Other", "..basin 2",
@@ -134,6 +136,7 @@ TEST_F(TreeTest, filter_keeps_hits_in_either_case_with_what_they_belong_to) {
     QTest::keyClick(&filter(), Qt::Key_Escape);
     EXPECT_EQ(names().size(), 10);
     EXPECT_FALSE(view().isExpanded(find("Other")));
+    EXPECT_TRUE(view().isExpanded(find("Ridge"))) << "as it was before";
 }
 
 TEST_F(TreeTest, filters_leave_no_memory_behind) {
@@ -191,6 +194,7 @@ TEST_F(TreeTest, commands_are_there_for_what_is_selected) {
     ASSERT_EQ(opened.size(), 1);
     EXPECT_EQ(opened.takeFirst().at(0).value<Objects>(), Objects({set})) << "a sample opens its dataset";
 
+    EXPECT_EQ(enabledFor({"Set"}), "11110");
     EXPECT_EQ(enabledFor({"A", "Set"}), "10111");
     tree.exportAction()->trigger();
     EXPECT_EQ(exported.value(0).value(0).value<Objects>(), Objects({set, analysis}));
