@@ -1,104 +1,46 @@
 #pragma once
 
-#include "ImportModules.h"
-#include "ModalAnswers.h"
+#include "ImportFixture.h"
 #include "ProjectTree.h"
-#include "TDatabase.h"
-#include "VKDatabaseVornMGR.h"
 #include "VKObject2Analysis.h"
-#include "VKObject2Well.h"
-#include "VornCtrl.h"
-#include "VornEditor.h"
-#include "WorkbenchFixture.h"
-#include "WorkbookFile.h"
 
-#include <QDir>
-#include <QFile>
-#include <QIcon>
 #include <QLineEdit>
 #include <QTreeView>
-#include <QTreeWidget>
 
 #include <memory>
-#include <ostream>
 
-/// How the test library shows a text that differs.
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << text.toStdString();
-}
-
-/// The workbench with an empty project, and the source-rock module, which takes tables and raw files, as who
-/// sees its list and the log.
-class FailuresFixture : public WorkbenchFixture {
+/// The source-rock module, which takes tables and raw files, as who sees its list and the log.
+class FailuresFixture : public ImportTest {
 protected:
-    static constexpr auto kind = ImportModules::Kind::SourceRock;
-
-    FailuresFixture() {
-        VKDatabaseVornMGR::getInstance()->setPlace(path("parameters.sqlite"));
-        workbench->projects().create(path("lab.vornproj"));
-    }
-    ~FailuresFixture() override { VKDatabaseVornMGR::getInstance()->close(); }
-
-    static QByteArray bytesOf(const QString& file) {
-        QFile source(file);
-        EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file.toStdString();
-        return source.readAll();
-    }
-    static QByteArray example(const QString& name) { return bytesOf(QDir(VORN_EXAMPLES).filePath(name)); }
-    QString made(const QString& name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return file.fileName();
-    }
-    QString rawFile(const QString& name) const { return made(name, example("good-clean-01.S00")); }
+    QString rawFile(const QString& name) const { return made(name, bytesOf(example("good-clean-01.S00"))); }
     QString table(const QString& name, double value = 1.5) const {
         writeWorkbook(path(name), {"Sample", "TOC (wt%)"}, {{"A", value}, {"B", value}});
         return path(name);
     }
 
-    VornEditor& module() {
-        workbench->imports().start(kind);
-        return *dynamic_cast<VornEditor*>(workbench->imports().bar(kind));
-    }
-    void drop(const QStringList& paths) { emit module().filesDropped(paths); }
+    void drop(const QStringList& paths) { emit module->editor()->filesDropped(paths); }
     void pressImport() {
         const ModalAnswers answers({"Overwrite"});
-        emit module().importAsked();
+        emit module->editor()->importAsked();
     }
     void import(const QStringList& paths) {
         drop(paths);
         pressImport();
     }
-    /// With its list of files.
-    void closeModule() {
-        emit module().closeRequested();
-        settle();
+    /// With an empty list of files, and with an empty log.
+    void openAnew() {
+        module = std::make_unique<OpenModule>();
+        workbench->log().clear();
     }
 
-    /// The status that the list shows for a file; -1 if it isn't listed.
-    int status(const QString& path) {
-        const auto picture = [](const QIcon& icon) { return icon.pixmap(16).toImage(); };
-        const QString pictures[] = {"toolbar/blue_plus", "workflow/action_32", "toolbar/close_project"};
-        const auto* const tree = module().findChild<QTreeWidget*>();
-        for (int row = 0; row < tree->topLevelItemCount(); ++row) {
-            for (int code = 0; code < 3 && tree->topLevelItem(row)->text(3) == path; ++code) {
-                const QIcon icon(QString(":/Ressources/png/%1.png").arg(pictures[code]));
-                if (picture(tree->topLevelItem(row)->icon(0)) == picture(icon)) {
-                    return code;
-                }
-            }
-        }
-        return -1;
-    }
+    /// -1 if the file isn't listed.
+    int status(const QString& path) { return module->model().value(path, -1); }
     int count(int code, const QStringList& paths) {
-        int found = 0;
-        for (const QString& path : paths) {
-            found += status(path) == code ? 1 : 0;
-        }
-        return found;
+        return static_cast<int>(std::count_if(paths.begin(), paths.end(),
+                                              [&](const QString& path) { return status(path) == code; }));
     }
 
-    /// Whether all of a file made by `rawFile` or `table` is in the project; part of it fails the test.
+    /// Whether all of a file that the test made is in the project; part of it fails the test.
     bool holds(const QString& path) {
         const QString name = QFileInfo(path).fileName();
         if (name.endsWith(".S00")) {
@@ -106,16 +48,16 @@ protected:
             EXPECT_TRUE(analysis == nullptr || project().curve(analysis->key()).dataSize() > 1000);
             return analysis != nullptr;
         }
-        const VKObject2Well* const well = project().getWell("Source Rock-" + name);
-        EXPECT_TRUE(well == nullptr || project().samples(well->key()).size() == 3) << name.toStdString();
+        const bool results = name.endsWith(".R00");
+        const VKObject2Well* const well = project().getWell(results ? name : "Source Rock-" + name);
+        EXPECT_TRUE(well == nullptr || project().samples(well->key()).size() == (results ? 1 : 3)) << name;
         return well != nullptr;
     }
 
-    /// Errors that came since the log was cleared, as one text.
     QString told() const { return errors().join("\n"); }
     void expectTold(const QStringList& parts) const {
         for (const QString& part : parts) {
-            EXPECT_TRUE(told().contains(part)) << part.toStdString() << " in " << told().toStdString();
+            EXPECT_TRUE(told().contains(part)) << part << " in " << told();
         }
     }
     void expectWholeProject() {
@@ -125,8 +67,7 @@ protected:
     /// In the same window, whose title and tree follow.
     void expectThatAnOrdinaryImportWorks() {
         expectWholeProject();
-        closeModule();
-        workbench->log().clear();
+        openAnew();
         const QStringList paths = {rawFile("ordinary.S00"), table("ordinary.xlsx")};
         import(paths);
         EXPECT_EQ(told(), "");
@@ -138,4 +79,6 @@ protected:
         tree().findChild<QTreeView*>()->selectAll();
         EXPECT_EQ(tree().selectedObjects().size(), 2);
     }
+
+    std::unique_ptr<OpenModule> module = std::make_unique<OpenModule>();
 };

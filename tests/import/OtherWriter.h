@@ -2,35 +2,21 @@
 
 #include <gtest/gtest.h>
 
+#include <QSemaphore>
 #include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QString>
 
-#include <chrono>
-#include <future>
 #include <thread>
 
-/// Another window that writes into a project and takes its time.
+/// Another window that writes into a project until a little after it is told to end.
 class OtherWriter {
 public:
-    explicit OtherWriter(const QString& path) {
-        m_thread = std::thread([this, path] { write(path); });
-        m_begun.get_future().wait();
-    }
+    explicit OtherWriter(const QString& path) : m_thread([this, path] { write(path); }) { m_begun.acquire(); }
     ~OtherWriter() {
         end();
         m_thread.join();
     }
-    OtherWriter(const OtherWriter&) = delete;
-    OtherWriter& operator=(const OtherWriter&) = delete;
-
-    /// Soon, but not at once.
-    void end() {
-        if (!m_ending) {
-            m_ending = true;
-            m_end.set_value();
-        }
-    }
+    void end() { m_end.release(); }
 
 private:
     void write(const QString& path) {
@@ -39,16 +25,15 @@ private:
             connection.setDatabaseName(path);
             EXPECT_TRUE(connection.open());
             EXPECT_TRUE(QSqlQuery(connection).exec("BEGIN IMMEDIATE"));
-            m_begun.set_value();
-            m_end.get_future().wait();
+            m_begun.release();
+            m_end.acquire();
             std::this_thread::sleep_for(std::chrono::seconds(1));
             EXPECT_TRUE(QSqlQuery(connection).exec("ROLLBACK"));
         }
         QSqlDatabase::removeDatabase("other");
     }
 
-    std::promise<void> m_begun;
-    std::promise<void> m_end;
-    bool m_ending = false;
+    QSemaphore m_begun;
+    QSemaphore m_end;
     std::thread m_thread;
 };
