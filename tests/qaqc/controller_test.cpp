@@ -1,39 +1,45 @@
 #include "QualityCheckFixture.h"
 
-#include "Application.h"
 #include "SourceRockQAQCCtrl.h"
 #include "SourceRockQAQCViewer.h"
 #include "SrQaqcDataModel.h"
 #include "TAnalysisData.h"
-#include "VKObject2Signal.h"
+#include "VKObject2Well.h"
 #include "VKRibbon.h"
+#include "VornCtrl.h"
+#include "VornEditor.h"
 #include "sourcerockqaqc/rawsignal.h"
 
 #include <QMetaMethod>
 
-using Vorn::SourceRockQAQC::SourceRockQAQCCtrl;
+#include <numeric>
 
-namespace {
-
-QStringList methodsOf(const QMetaObject& meta) {
-    QStringList signatures;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        signatures.append(meta.method(i).methodSignature());
-    }
-    return signatures;
-}
-
-} // namespace
+using namespace Vorn::SourceRockQAQC;
 
 class Controller : public QualityCheckTest {};
 
 TEST_F(Controller, meta_objects_name_what_is_reached_by_name_in_this_order) {
-    EXPECT_EQ(methodsOf(SourceRockQAQCCtrl::staticMetaObject),
-              QStringList({"slotAnalysisAdded(const VKObject2Analysis*)", "showDataEditor()"}));
-    EXPECT_EQ(methodsOf(Editor::staticMetaObject),
-              QStringList({"signalAnalysisAdded(const VKObject2Analysis*)", "processExport()",
-                           "analysisDropEvent(QDropEvent*)", "processDragEnter(QDragEnterEvent*)",
-                           "processDragMove(QDragMoveEvent*)", "updateData()", "processItemsSelected()"}));
+    const std::pair<const QMetaObject*, QByteArray> expected[] = {
+        {&SourceRockQAQCCtrl::staticMetaObject,
+         "slotAnalysisAdded(const VKObject2Analysis*) showDataEditor() "},
+        {&Editor::staticMetaObject,
+         "signalAnalysisAdded(const VKObject2Analysis*) processExport() analysisDropEvent(QDropEvent*) "
+         "processDragEnter(QDragEnterEvent*) processDragMove(QDragMoveEvent*) updateData() "
+         "processItemsSelected() "},
+        {&VornEditor::staticMetaObject,
+         "closeRequested() filesDropped(QStringList) importAsked() fileDelete(QString) "
+         "slotDrop(QStringList) slotImportButton() slotItemClicked(QTreeWidgetItem*,int) "},
+        {&VornCtrl::staticMetaObject,
+         "slotEditorHasBeenClosed() slotFilesDropped(QStringList) slotImportAsked() "
+         "slotDeleteFileFromModel(QString) setVornParameters(QAbstractItemModel*) "
+         "updateFileStatus(QString,importStatus) "}};
+    for (const auto& [meta, names] : expected) {
+        QByteArray found;
+        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
+            found += meta->method(i).methodSignature() + ' ';
+        }
+        EXPECT_EQ(found, names);
+    }
     SourceRockQAQCCtrl second;
     EXPECT_EQ(second.qt_metacast("VKModuleCtrl"), static_cast<VKModuleCtrl*>(&second));
     EXPECT_NE(second.qt_metacast("VKModuleCtrl"), static_cast<void*>(&second));
@@ -54,7 +60,7 @@ TEST_F(Controller, unknown_names_are_passed_over_in_a_display_and_fail_as_a_colo
 
 TEST_F(Controller, a_viewer_manager_cut_off_from_its_module_does_not_end_it) {
     SourceRockQAQCCtrl second;
-    Vorn::SourceRockQAQC::SourceRockQAQCViewer viewers(&second);
+    SourceRockQAQCViewer viewers(&second);
     viewers.closeViewers(); // harmless without any
     viewers.slotModuleClosing();
     viewers.slotViewerClosed();
@@ -63,13 +69,11 @@ TEST_F(Controller, a_viewer_manager_cut_off_from_its_module_does_not_end_it) {
 }
 
 TEST_F(Controller, an_empty_table_has_its_header_and_answers_for_two_roles) {
-    using namespace Vorn::SourceRockQAQC;
     const auto manager = std::make_shared<SourceRockQAQCMgr>(std::make_shared<SourceRockQAQCSettings>());
     const SrQaqcDataModel empty(manager);
     EXPECT_EQ(empty.rowCount(), 0);
     EXPECT_EQ(empty.columnCount(), 1);
     EXPECT_EQ(empty.headerData(0, Qt::Horizontal, Qt::DisplayRole), "Quality");
-
     const TAnalysisData curve = project().curve(analysis("double-clean-01.S00")->key());
     manager->addAnalysis(algo::sr_qaqc::rawSignal<double, Values>(curve.x().data(), curve.y().data(),
                                                                   static_cast<int>(curve.x().size())),
@@ -79,4 +83,29 @@ TEST_F(Controller, an_empty_table_has_its_header_and_answers_for_two_roles) {
     EXPECT_EQ(table.data(table.index(0, 0), 34), "double");
     EXPECT_FALSE(table.data(table.index(0, 0), Qt::EditRole).isValid());
     EXPECT_EQ(empty.rowCount(), 0);
+}
+
+TEST_F(Controller, what_the_engine_refuses_is_named_and_left_out_and_the_rest_is_graded) {
+    // The useful range begins behind its end: the only local minimum stands behind nine tenths.
+    std::vector<float> x(11);
+    std::iota(x.begin(), x.end(), 0.0F);
+    project().addAnalysis("<b>late</b>", {}, {x, {9, 8, 7, 6, 5, 4, 3, 2, 1, 0, 5}});
+    const VKObject2Analysis* const gone = analysis("good-clean-02.S00");
+    project().removeAnalysis(gone->key());
+    drop({analysis("<b>late</b>"), project().addWell("a dataset"), analysis("good-clean-01.S00")});
+    ASSERT_EQ(list().topLevelItemCount(), 1);
+    EXPECT_EQ(listColour(0), QColor(Qt::green));
+    ASSERT_EQ(errors().size(), 1);
+    EXPECT_TRUE(errors()[0].contains("<b>late</b>")) << "the name as it is written";
+    EXPECT_EQ(messages(MessageLevel::Warning).size(), 1);
+    drop({analysis("<b>late</b>"), gone});
+    EXPECT_EQ(list().topLevelItemCount(), 1) << "nor one that cannot be read any more";
+}
+
+TEST_F(Controller, foreign_data_are_refused_while_dragged_and_ignored_when_dropped) {
+    QMimeData foreign;
+    foreign.setText("an analysis");
+    EXPECT_FALSE(drop(foreign));
+    EXPECT_EQ(list().topLevelItemCount(), 0);
+    EXPECT_TRUE(drop({analysis("good-clean-01.S00")}));
 }

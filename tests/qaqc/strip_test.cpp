@@ -35,9 +35,6 @@ class Strips : public QualityCheckTest {
 protected:
     const QStringList names{"flat-broad-01.S00", "good-noisy-01.S00", "good-shoulder-01.S00"};
 
-    CheckSession& session() { return *workbench->qualityCheck().session(); }
-    EngineSettings settings() { return {1.0 - sensitivity().value(), coelution().value(), height().value()}; }
-
     /// Grades at every position, or at every tenth, and counts an analysis once in each column.
     std::vector<int> byGrading(const SliderScale& scale, int width, int stride, double EngineSettings::*field,
                                bool complement) {
