@@ -1,16 +1,12 @@
 #include "ModalAnswers.h"
 #include "ModuleLauncher.h"
-#include "MouseDrop.h"
 #include "TDatabase.h"
 #include "TextPairsCtrl.h"
-#include "VKObject2Well.h"
 #include "VKTreeWidget.h"
 #include "WorkbenchFixture.h"
 
 #include <QDir>
 #include <QFile>
-#include <QMimeData>
-#include <QUrl>
 
 #include <memory>
 
@@ -24,18 +20,12 @@ protected:
         dynamic_cast<ModuleLauncher&>(*ModuleLauncherInterface::returnMe()).adopt(controller.release());
     }
 
-    /// Drops the files as a mouse would and presses Import; the wizard is confirmed as it opens.
+    /// Drops the files and presses Import; the wizard is confirmed as it opens.
     void import(const QStringList& paths) {
         const ModalAnswers answers;
         const QList<VKRibbonModuleBar*> bars = workbench->window().findChildren<VKRibbonModuleBar*>();
         ASSERT_EQ(bars.size(), 1);
-        QMimeData data;
-        QList<QUrl> files;
-        for (const QString& each : paths) {
-            files.append(QUrl::fromLocalFile(each));
-        }
-        data.setUrls(files);
-        MouseDrop::on(*bars[0]->findChild<VKTreeWidget*>()->viewport(), data);
+        emit bars[0]->findChild<VKTreeWidget*>()->dataDroppped(paths);
         ASSERT_TRUE(QMetaObject::invokeMethod(bars[0], "slotImportButton"));
         dialogs = answers.asked().size();
     }
@@ -47,16 +37,6 @@ protected:
         return written.fileName();
     }
 
-    /// The table as it was stored: a row a column of the file, a column a sample.
-    TechDB::SampleTable stored(const QString& dataset) {
-        for (const TechDB::SampleInfo& sample : project().samples(project().getWell(dataset)->key())) {
-            if (sample.name == "Text pairs") {
-                return project().sampleTable(sample.key);
-            }
-        }
-        return {};
-    }
-
     int dialogs = 0;
 };
 
@@ -66,7 +46,10 @@ TEST_F(TextPairsRoad, a_dropped_text_becomes_a_dataset_and_lines_left_out_are_na
     EXPECT_EQ(errors(), QStringList());
     EXPECT_EQ(dialogs, 1);
     ASSERT_EQ(project().datasets().size(), 1);
-    const TechDB::SampleTable table = stored("Text pairs-carbon.txt");
+    const auto samples = project().sampleTables(project().datasets()[0].key);
+    ASSERT_EQ(samples.size(), 4);
+    EXPECT_EQ(project().datasets()[0].name + samples.last().first, "Text pairs-carbon.txtText pairs");
+    const TechDB::SampleTable& table = samples.last().second; // a row a column of the file, a column a sample
     EXPECT_EQ(table.columnNames, QStringList({"A-1", "A-2", QString::fromUtf8("Séte")}));
     ASSERT_EQ(table.rowNames.size(), 2) << table.rowNames.join(", ").toStdString();
     EXPECT_EQ(table.rowNames[1], "TOC");
@@ -84,12 +67,13 @@ TEST_F(TextPairsRoad, what_is_no_table_is_refused_by_name_and_the_rest_comes_in)
             file("<i>.txt", "Sample;TOC\nA;1\nB;2\n")});
     ASSERT_EQ(project().datasets().size(), 1);
     EXPECT_EQ(project().datasets()[0].name, "Text pairs-<i>.txt");
-    const QStringList told = errors();
-    ASSERT_EQ(told.size(), 4) << told.join('\n').toStdString();
-    EXPECT_EQ(told.filter("bytes.txt can't be imported: it holds no text").size(), 1);
-    EXPECT_EQ(told.filter("words.txt can't be imported: no line of it has two columns").size(), 1);
-    EXPECT_EQ(told.filter("folder.txt can't be imported: it is no regular file").size(), 1);
-    EXPECT_EQ(told.filter("long.txt can't be imported: it has more than 1000000 lines").size(), 1);
+    EXPECT_EQ(errors().size(), 4) << errors().join('\n').toStdString();
+    for (const char* const told : {"bytes.txt can't be imported: it holds no text",
+                                   "words.txt can't be imported: no line of it has two columns",
+                                   "folder.txt can't be imported: it is no regular file",
+                                   "long.txt can't be imported: it has more than 1000000 lines"}) {
+        EXPECT_EQ(errors().filter(told).size(), 1) << told;
+    }
 }
 
 TEST_F(TextPairsRoad, warnings_are_cut_off) {

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QByteArray>
 #include <QDir>
 #include <QFile>
-#include <QString>
 
 #include <sched.h>
 #include <sys/mount.h>
@@ -23,22 +21,26 @@ public:
             umount2(m_folder, MNT_DETACH);
         }
     }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
 
     bool isMounted() const { return m_mounted; }
     QString file(const QString& name) const { return QDir(m_folder).filePath(name); }
-    /// Takes all room but this.
-    void fillUpTo(int room) const {
-        QFile ballast(file("ballast"));
-        ASSERT_TRUE(ballast.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-        while (ballast.write(QByteArray(4096, 'x')) == 4096) {
-        }
-        ballast.resize(ballast.size() - room);
-    }
-    void makeRoom() const { QFile::remove(file("ballast")); }
 
 private:
     QByteArray m_folder;
     bool m_mounted;
+};
+
+/// A file that takes all room of its disk but so much, for as long as it lives.
+class Ballast {
+public:
+    Ballast(const QString& path, int room) : m_file(path) {
+        EXPECT_TRUE(m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (m_file.write(QByteArray(4096, 'x')) == 4096) {
+        }
+        m_file.resize(m_file.size() - room);
+    }
+    ~Ballast() { m_file.remove(); }
+
+private:
+    QFile m_file;
 };

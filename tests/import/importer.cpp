@@ -15,8 +15,7 @@ namespace {
 
 QStringList filesIn(const QString& folder) {
     QStringList paths;
-    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files);
-    for (const QFileInfo& file : files) {
+    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files)) {
         paths.append(file.absoluteFilePath());
     }
     return paths;

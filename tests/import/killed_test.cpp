@@ -20,10 +20,6 @@ namespace {
 constexpr int tables = 3;
 constexpr int shortest = 20; // rows of the first version; the second has twice as many
 
-QString tableName(int table) {
-    return QString("lab%1.xlsx").arg(table);
-}
-
 /// Every number of a version is the version's.
 void writeVersion(const QString& folder, int version) {
     QDir().mkpath(folder);
@@ -32,7 +28,7 @@ void writeVersion(const QString& folder, int version) {
         for (int row = 0; row < shortest * version; ++row) {
             rows.append({QString("S%1").arg(row), version * 1.0, version * 1.0});
         }
-        writeWorkbook(QDir(folder).filePath(tableName(table)), {"Sample", "C1", "C2"}, rows);
+        writeWorkbook(QDir(folder).filePath(QString("lab%1.xlsx").arg(table)), {"Sample", "C1", "C2"}, rows);
     }
 }
 
@@ -72,22 +68,16 @@ void expectSound(const TechDB::TDatabase& project) {
 }
 
 /// Runs the importer on a project until it is killed.
-class Importer {
-public:
+struct Importer : QProcess {
     Importer(const QString& project, const QString& folder) {
-        m_process.start(VORN_IMPORTER, {project, folder});
-        EXPECT_TRUE(m_process.waitForReadyRead(30'000)) << problem();
+        start(VORN_IMPORTER, {project, folder});
+        EXPECT_TRUE(waitForReadyRead(30'000)) << readAllStandardError().toStdString();
     }
-    void kill() {
-        EXPECT_EQ(m_process.state(), QProcess::Running) << problem();
-        m_process.kill();
-        EXPECT_TRUE(m_process.waitForFinished());
+    void end() {
+        EXPECT_EQ(state(), QProcess::Running) << readAllStandardError().toStdString();
+        kill();
+        EXPECT_TRUE(waitForFinished());
     }
-
-private:
-    std::string problem() { return m_process.readAllStandardError().toStdString(); }
-
-    QProcess m_process;
 };
 
 /// How many rounds: ten, or as many as the environment asks for.
@@ -102,6 +92,7 @@ protected:
         TechDB::TDatabase::create(place());
         writeVersion(folder.filePath("one"), 1);
         writeVersion(folder.filePath("two"), 2);
+        writeCurves(folder.filePath("raw"), 0);
     }
     QString place() const { return server ? server->address() : folder.filePath("lab.vornproj"); }
 
@@ -118,7 +109,7 @@ TEST_F(KilledImport, leaves_every_dataset_whole_and_every_analysis_with_its_curv
         writeCurves(folder.filePath("raw"), round);
         Importer importer(place(), folder.path());
         QThread::msleep(QRandomGenerator::global()->bounded(1'000U));
-        importer.kill();
+        importer.end();
 
         const auto project = TechDB::TDatabase::open(place());
         expectSound(*project);
@@ -133,27 +124,25 @@ TEST_F(KilledImport, leaves_every_dataset_whole_and_every_analysis_with_its_curv
 
 // A server goes on for a moment with what it was asked, so this happens to who looks after a kill as well.
 TEST_F(KilledImport, is_seen_by_other_windows_as_whole_while_it_runs) {
-    writeCurves(folder.filePath("raw"), 0);
     Importer importer(place(), folder.path());
     const auto project = TechDB::TDatabase::open(place());
     int looks = 0;
     for (const QDeadlineTimer end(2'000); !end.hasExpired() && !HasFailure(); ++looks) {
         expectSound(*project);
     }
-    importer.kill();
+    importer.end();
     EXPECT_GT(looks, 1);
     EXPECT_EQ(project->datasets().size(), tables);
 }
 
 TEST_F(KilledImport, of_two_windows_that_import_the_same_names_ends_one_after_the_other) {
-    writeCurves(folder.filePath("raw"), 0);
     int datasets = 0;
     for (int round = 0; round < 3; ++round) {
         Importer one(place(), folder.path());
         Importer other(place(), folder.path());
         QThread::msleep(1'500 + QRandomGenerator::global()->bounded(500U));
-        one.kill();
-        other.kill();
+        one.end();
+        other.end();
         const auto project = TechDB::TDatabase::open(place());
         expectSound(*project);
         datasets = project->datasets().size();

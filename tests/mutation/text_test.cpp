@@ -28,6 +28,18 @@ struct Answer {
     std::string err;
 };
 
+/// Of each line, which must be a grade or a failure.
+std::vector<std::string> digestsIn(const std::string& out) {
+    std::vector<std::string> digests;
+    std::istringstream lines(out);
+    for (std::string line; std::getline(lines, line);) {
+        const auto read = gradereport::readJsonLine(line);
+        EXPECT_NE(read.kind, gradereport::LineKind::other) << line;
+        digests.push_back(read.sha256);
+    }
+    return digests;
+}
+
 Answer run(grade::Options options, const std::string& input = {}) {
     options.format = grade::Format::json;
     std::istringstream in(input);
@@ -43,35 +55,30 @@ TEST(Mutation, each_raw_file_gets_one_line_a_grade_or_a_reason) {
     for (const std::string name : {"good-clean-01.S00", "good-decimal-comma-01.S00", "double-noisy-01.S00"}) {
         const TemporaryFolder folder;
         grade::Options options;
-        int files = 0;
         Mutants(example(name)).each(60, [&](const std::string& bytes, int number) {
             options.paths.push_back(folder.write(std::to_string(number) + ".S00", bytes));
-            ++files;
+            return true;
         });
         options.report = folder.path("report.html");
         options.machineLearning = folder.path("learn.txt");
         alarm(120);
         const Answer result = run(options);
         alarm(0);
-        std::istringstream lines(result.out);
-        for (std::string line; std::getline(lines, line); --files) {
-            EXPECT_NE(gradereport::readJsonLine(line).kind, gradereport::LineKind::other) << line;
-        }
-        EXPECT_EQ(files, 0);
+        EXPECT_EQ(digestsIn(result.out).size(), options.paths.size());
         EXPECT_LE(result.status, 1);
     }
 }
 
 TEST(Mutation, results_are_read_or_refused_by_line) {
-    int read = 0;
-    Mutants(example("good-clean-01.R00")).each(1500, [&](const std::string& bytes, int) {
+    const auto meet = [&](const std::string& bytes, int) {
         try {
-            read += rockeval::readResults(bytes, "m.R00").sections.empty() ? 0 : 1;
+            return !rockeval::readResults(bytes, "m.R00").sections.empty();
         } catch (const rockeval::ReadError& error) {
             EXPECT_GT(error.line(), 0U);
+            return false;
         }
-    });
-    EXPECT_GT(read, 100);
+    };
+    EXPECT_GT(Mutants(example("good-clean-01.R00")).each(1500, meet), 100);
 }
 
 TEST(Mutation, a_signals_text_is_read_whole_or_not_at_all) {
@@ -81,22 +88,20 @@ TEST(Mutation, a_signals_text_is_read_whole_or_not_at_all) {
         plain += std::to_string(i) + " " + std::to_string(i * i % 17) + ".5\n";
         even += std::to_string(i * i % 17) + "e-1\n";
     }
-    int read = 0;
-    const auto meet = [&](Signal& signal, const std::string& bytes) {
+    const auto meet = [&](Signal&& signal, const std::string& bytes) {
         std::istringstream stream(bytes);
         signal.read(stream);
         EXPECT_EQ(signal.xValues().size(), signal.size());
         EXPECT_EQ(signal.yValues().size(), signal.size());
         EXPECT_LE(signal.size(), bytes.size());
         EXPECT_TRUE(!stream.fail() || signal.size() == 0);
-        read += signal.size() > 0 ? 1 : 0;
+        return signal.size() > 0;
     };
-    Mutants(plain).each(1500,
-                        [&](const std::string& bytes, int) { meet(*std::make_shared<Signal>(0), bytes); });
-    Mutants(even).each(1500, [&](const std::string& bytes, int) {
-        meet(*std::make_shared<IsoSignal>(0, 1, 0, nullptr), bytes);
-    });
-    EXPECT_GT(read, 100);
+    const auto asPlain = [&](const std::string& bytes, int) { return meet(Signal(0), bytes); };
+    const auto asEven = [&](const std::string& bytes, int) {
+        return meet(IsoSignal(0, 1, 0, nullptr), bytes);
+    };
+    EXPECT_GT(Mutants(plain).each(1500, asPlain) + Mutants(even).each(1500, asEven), 100);
 }
 
 // A damaged digest must not pass for the one of another file, so that nothing is left ungraded.
@@ -107,22 +112,16 @@ TEST(Mutation, damaged_lines_of_an_earlier_run_leave_no_file_ungraded) {
         options.paths.push_back(folder.write(name, example(name)));
     }
     const std::string whole = run(options).out;
-    std::vector<std::string> digests;
-    std::istringstream wholeLines(whole);
-    for (std::string line; std::getline(wholeLines, line);) {
-        digests.push_back(gradereport::readJsonLine(line).sha256);
-    }
+    const std::vector<std::string> digests = digestsIn(whole);
     ASSERT_EQ(digests.size(), options.paths.size());
     options.skipDone = folder.path("done.jsonl");
-    int refused = 0;
     int used = 0;
-    Mutants(whole).each(200, [&](const std::string& bytes, int) {
+    const int refused = Mutants(whole).each(200, [&](const std::string& bytes, int) {
         folder.write("done.jsonl", bytes);
         const Answer result = run(options);
         if (result.status == 2) {
             EXPECT_NE(result.err.find("done.jsonl"), std::string::npos);
-            ++refused;
-            return;
+            return true;
         }
         for (std::size_t i = 0; i < digests.size(); ++i) {
             EXPECT_TRUE(bytes.find(digests[i]) != std::string::npos ||
@@ -130,6 +129,7 @@ TEST(Mutation, damaged_lines_of_an_earlier_run_leave_no_file_ungraded) {
                 << options.paths[i];
         }
         ++used;
+        return false;
     });
     EXPECT_GT(refused, 50);
     EXPECT_GT(used, 0);
@@ -145,17 +145,15 @@ TEST(Mutation, each_path_of_a_damaged_list_gets_its_line) {
     }
     grade::Options options;
     options.paths = {"-"};
-    Mutants(list).each(150, [&](const std::string& bytes, int) {
+    const auto meet = [&](const std::string& bytes, int) {
         std::istringstream paths(bytes);
         grade::PathList counted(paths, grade::PathEnd::line);
-        int left = 0;
+        std::size_t count = 0;
         while (counted.next().has_value()) {
-            ++left;
+            ++count;
         }
-        std::istringstream lines(run(options, bytes).out);
-        for (std::string line; std::getline(lines, line); --left) {
-            EXPECT_NE(gradereport::readJsonLine(line).kind, gradereport::LineKind::other) << line;
-        }
-        EXPECT_EQ(left, 0);
-    });
+        EXPECT_EQ(digestsIn(run(options, bytes).out).size(), count);
+        return true;
+    };
+    Mutants(list).each(150, meet);
 }
