@@ -15,19 +15,16 @@ inline void writeWorkbook(const QString& path, const QStringList& headers,
                           const QVector<QVariantList>& rows) {
     lxw_workbook* const book = workbook_new(path.toUtf8().constData());
     lxw_worksheet* const sheet = workbook_add_worksheet(book, "Lab");
-    const auto put = [sheet](int row, int column, const QVariant& cell) {
-        const auto line = static_cast<lxw_row_t>(row);
-        const auto place = static_cast<lxw_col_t>(column);
-        if (cell.type() == QVariant::Double || cell.type() == QVariant::Int) {
-            worksheet_write_number(sheet, line, place, cell.toDouble(), nullptr);
-        } else if (!cell.toString().isEmpty()) {
-            worksheet_write_string(sheet, line, place, cell.toString().toUtf8().constData(), nullptr);
-        }
-    };
-    for (int column = 0; column < headers.size(); ++column) {
-        put(0, column, headers[column]);
-        for (int row = 0; row < rows.size(); ++row) {
-            put(row + 1, column, rows[row].value(column));
+    for (int row = 0; row <= rows.size(); ++row) {
+        for (int column = 0; column < headers.size(); ++column) {
+            const QVariant cell = row == 0 ? headers[column] : rows[row - 1].value(column);
+            const auto line = static_cast<lxw_row_t>(row);
+            const auto place = static_cast<lxw_col_t>(column);
+            if (cell.type() == QVariant::Double) {
+                worksheet_write_number(sheet, line, place, cell.toDouble(), nullptr);
+            } else {
+                worksheet_write_string(sheet, line, place, cell.toString().toUtf8().constData(), nullptr);
+            }
         }
     }
     if (workbook_close(book) != LXW_NO_ERROR) {

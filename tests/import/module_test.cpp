@@ -23,17 +23,14 @@ namespace {
 
 /// Takes the files whose names hold `accepted` and delivers what the test says.
 struct FakeReader : ImportRockEvalVI {
-    explicit FakeReader(const QString& accepts = {}, QStringList* heard = nullptr)
-        : accepted(accepts), offers(heard) {}
+    explicit FakeReader(const QString& accepts = {}) : accepted(accepts) {}
     void prepareForProbe(bool probe) override { probed = probe; }
     bool acceptsFile(TFileBuffer&, const QString& path, QString&) override {
         return probed && path.contains(accepted);
     }
     void setSource(const QString&, const QString& path, const QString&, TFileBuffer* buffer) override {
         EXPECT_TRUE(path.startsWith("/") && buffer == nullptr);
-        if (offers != nullptr) {
-            *offers += accepted;
-        }
+        ++offers;
         if (path.contains("bad") && accepted == ".xls") {
             throw VKError("broken");
         }
@@ -43,8 +40,8 @@ struct FakeReader : ImportRockEvalVI {
     float* secondChannel() override { return second.empty() ? nullptr : second.data(); }
     QAbstractItemModel* resultsModel() override { return results; }
 
+    static inline int offers = 0;
     const QString accepted;
-    QStringList* offers;
     bool probed = false;
     int count = 3;
     std::vector<float> first{0, 1, 2.5F};
@@ -108,8 +105,7 @@ class ImportModule : public ImportTest {
 protected:
     ImportModule() {
         module.readers = [this] {
-            return QList<VKImportInterface*>{new FakeReader(".xls", &offers),
-                                             new FakeReader(".xlsx", &offers)};
+            return QList<VKImportInterface*>{new FakeReader(".xls"), new FakeReader(".xlsx")};
         };
     }
     VKTreeWidget& tree() { return *module.editor()->findChild<VKTreeWidget*>(); }
@@ -135,7 +131,6 @@ protected:
     }
 
     const BothLanguages translator;
-    QStringList offers;
     OpenModule module;
 };
 
@@ -146,10 +141,10 @@ TEST_F(ImportModule, a_failed_file_goes_to_the_next_reader_and_a_done_one_stays_
     EXPECT_EQ(errors(), QStringList("broken")) << "one unreadable file among others gets no message";
     emit tree().dataDroppped(codes.keys());
     EXPECT_EQ(module.model(), codes);
-    offers.clear();
+    FakeReader::offers = 0;
     import({"/bad.xlsx"});
     EXPECT_EQ(module.model().value("/bad.xlsx"), 1) << "the second reader made something of it";
-    EXPECT_EQ(offers.size(), 3) << "and the file that failed came again";
+    EXPECT_EQ(FakeReader::offers, 3) << "and the file that failed came again";
     EXPECT_EQ(informations().filter("already"),
               QStringList("File /<b>&.xls was already imported|Le fichier /<b>&.xls a déjà été "
                           "importé"));

@@ -2,13 +2,11 @@
 
 #include "SourceRockQAQCCtrl.h"
 #include "SourceRockQAQCViewer.h"
-#include "SrQaqcDataModel.h"
 #include "TAnalysisData.h"
 #include "VKObject2Well.h"
 #include "VKRibbon.h"
 #include "VornCtrl.h"
 #include "VornEditor.h"
-#include "sourcerockqaqc/rawsignal.h"
 
 #include <QMetaMethod>
 
@@ -69,20 +67,14 @@ TEST_F(Controller, a_viewer_manager_cut_off_from_its_module_does_not_end_it) {
 }
 
 TEST_F(Controller, an_empty_table_has_its_header_and_answers_for_two_roles) {
-    const auto manager = std::make_shared<SourceRockQAQCMgr>(std::make_shared<SourceRockQAQCSettings>());
-    const SrQaqcDataModel empty(manager);
+    const QAbstractItemModel& empty = *openTable()->model();
     EXPECT_EQ(empty.rowCount(), 0);
     EXPECT_EQ(empty.columnCount(), 1);
     EXPECT_EQ(empty.headerData(0, Qt::Horizontal, Qt::DisplayRole), "Quality");
-    const TAnalysisData curve = project().curve(analysis("double-clean-01.S00")->key());
-    manager->addAnalysis(algo::sr_qaqc::rawSignal<double, Values>(curve.x().data(), curve.y().data(),
-                                                                  static_cast<int>(curve.x().size())),
-                         "twin");
-    const SrQaqcDataModel table(manager);
-    EXPECT_EQ(table.data(table.index(0, 0), Qt::DisplayRole), "double");
-    EXPECT_EQ(table.data(table.index(0, 0), 34), "double");
-    EXPECT_FALSE(table.data(table.index(0, 0), Qt::EditRole).isValid());
-    EXPECT_EQ(empty.rowCount(), 0);
+    dropNamed({"double-clean-01.S00"});
+    const QAbstractItemModel& table = *openTable()->model();
+    EXPECT_EQ(table.index(0, 0).data(34), "double");
+    EXPECT_FALSE(table.index(0, 0).data(Qt::EditRole).isValid());
 }
 
 TEST_F(Controller, what_the_engine_refuses_is_named_and_left_out_and_the_rest_is_graded) {

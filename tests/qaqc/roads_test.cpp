@@ -197,9 +197,4 @@ TEST_F(QualityCheckRoads, the_export_for_learning_is_reached_by_name_and_shown) 
     EXPECT_EQ(workspace().currentPage()->windowTitle(), "dataSR.txt");
     ASSERT_EQ(messages(MessageLevel::Information).size(), 2);
     EXPECT_TRUE(messages(MessageLevel::Information)[0].contains("dataSR.txt"));
-    move(height(), lastPosition(height()));
-    workbench->qualityCheck().exportForLearning();
-    const QList<QByteArray> later = bytes(path("dataSR.txt")).split('\n');
-    EXPECT_EQ(later.mid(0, 3), lines.mid(0, 3));
-    EXPECT_EQ(later[3], "y=[3;3;]");
 }

@@ -2,34 +2,15 @@
 
 #include "ChangeStrip.h"
 #include "CheckSession.h"
-#include "rockeval/channels.h"
-#include "rockeval/signalreader.h"
+#include "TAnalysisData.h"
 #include "sourcerockqaqc/grading.h"
 #include "sourcerockqaqc/rawsignal.h"
 
-#include <QDir>
 #include <QTest>
 
 #include <numeric>
 
-using Values = std::vector<double>;
 using gradereport::EngineSettings;
-
-namespace {
-
-std::shared_ptr<const gradereport::Grading::Signal> signalOf(const QString& name) {
-    const auto read = rockeval::readSignalFile(QDir(VORN_EXAMPLES).filePath(name).toStdString());
-    const auto channels = rockeval::toChannels(read.curve);
-    return algo::sr_qaqc::rawSignal<double, Values>(channels.time.data(), channels.fid.data(),
-                                                    static_cast<int>(channels.time.size()));
-}
-
-int codeOf(const std::shared_ptr<const gradereport::Grading::Signal>& signal,
-           const EngineSettings& settings) {
-    return algo::sr_qaqc::qualityCode(*algo::sr_qaqc::grade(signal, settings).chromatogram);
-}
-
-} // namespace
 
 class Strips : public QualityCheckTest {
 protected:
@@ -38,23 +19,23 @@ protected:
     /// Grades at every position, or at every tenth, and counts an analysis once in each column.
     std::vector<int> byGrading(const SliderScale& scale, int width, int stride, double EngineSettings::*field,
                                bool complement) {
-        const int columns = (scale.lastPosition() + width - 1) / width;
-        std::vector<int> counts(static_cast<std::size_t>(columns));
+        std::vector<int> counts(static_cast<std::size_t>((scale.lastPosition() + width - 1) / width));
         for (const QString& name : names) {
-            const auto signal = signalOf(name);
-            std::vector<int> changes(counts.size());
+            const TAnalysisData curve = project().curve(analysis(name)->key());
+            const auto signal = algo::sr_qaqc::rawSignal<double, std::vector<double>>(
+                curve.x().data(), curve.y().data(), curve.dataSize());
             int before = -1;
+            std::size_t counted = counts.size();
             for (int position = 0; position <= scale.lastPosition(); position += stride) {
                 EngineSettings at = settings();
                 at.*field = complement ? 1.0 - scale.value(position) : scale.value(position);
-                const int code = codeOf(signal, at);
-                if (position > 0 && code != before) {
-                    changes[static_cast<std::size_t>((position - 1) / width)] = 1;
+                const int code = algo::sr_qaqc::qualityCode(*algo::sr_qaqc::grade(signal, at).chromatogram);
+                const auto column = static_cast<std::size_t>((position - 1) / width);
+                if (position > 0 && code != before && column != counted) {
+                    ++counts[column];
+                    counted = column;
                 }
                 before = code;
-            }
-            for (std::size_t i = 0; i < counts.size(); ++i) {
-                counts[i] += changes[i];
             }
         }
         return counts;
