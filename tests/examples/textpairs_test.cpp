@@ -1,5 +1,6 @@
 #include "ModalAnswers.h"
 #include "ModuleLauncher.h"
+#include "MouseDrop.h"
 #include "TDatabase.h"
 #include "TextPairsCtrl.h"
 #include "VKTreeWidget.h"
@@ -7,6 +8,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMimeData>
+#include <QUrl>
 
 #include <memory>
 
@@ -20,12 +23,16 @@ protected:
         dynamic_cast<ModuleLauncher&>(*ModuleLauncherInterface::returnMe()).adopt(controller.release());
     }
 
-    /// Drops the files and presses Import; the wizard is confirmed as it opens.
+    /// Drops the files as a mouse would and presses Import; the wizard is confirmed as it opens.
     void import(const QStringList& paths) {
         const ModalAnswers answers;
         const QList<VKRibbonModuleBar*> bars = workbench->window().findChildren<VKRibbonModuleBar*>();
         ASSERT_EQ(bars.size(), 1);
-        emit bars[0]->findChild<VKTreeWidget*>()->dataDroppped(paths);
+        QMimeData data;
+        QList<QUrl> files;
+        std::transform(paths.begin(), paths.end(), std::back_inserter(files), &QUrl::fromLocalFile);
+        data.setUrls(files);
+        MouseDrop::on(*bars[0]->findChild<VKTreeWidget*>()->viewport(), data);
         ASSERT_TRUE(QMetaObject::invokeMethod(bars[0], "slotImportButton"));
         dialogs = answers.asked().size();
     }
