@@ -104,6 +104,8 @@ VKImportInterface* VKImportCtrl::getDll(int) {
 class ImportModule : public ImportTest {
 protected:
     ImportModule() {
+        QObject::connect(dynamic_cast<ApplicationHost*>(ApplicationInterface::returnMe()),
+                         &ApplicationHost::projectChanged, [this](int change) { notified += change; });
         module.readers = [this] {
             return QList<VKImportInterface*>{new FakeReader(".xls"), new FakeReader(".xlsx")};
         };
@@ -131,6 +133,7 @@ protected:
     }
 
     const BothLanguages translator;
+    QList<int> notified;
     OpenModule module;
 };
 
@@ -262,9 +265,12 @@ TEST_F(ImportModule, a_signal_that_is_not_whole_is_refused_by_the_step_that_sees
         reader.second = each.second;
         EXPECT_EQ(failure(import), each.told);
     }
-    EXPECT_TRUE(project().analyses().isEmpty());
-    workbench->projects().close();
+    EXPECT_TRUE(project().analyses().isEmpty() && notified.isEmpty());
     reader.second = whole;
+    import();
+    import();
+    EXPECT_EQ(notified, QList<int>({1, 1})) << "also of what is there already";
+    workbench->projects().close();
     EXPECT_EQ(failure(import), notWritten);
 }
 
@@ -280,6 +286,8 @@ TEST_F(ImportModule, results_become_a_dataset_of_one_sample_and_replace_it_unask
     import();
     EXPECT_EQ(sample("X.R00").rowNames, QStringList("Source Rock QAQC"));
     EXPECT_EQ(sample("X.R00", "Source Rock QAQC").cells, QVector<QVariant>({"a", 2.5})) << "the second one's";
+    EXPECT_EQ(sample("X.R00", "Source Rock QAQC").properties.value(0).name(), "Vorn_parameter");
+    EXPECT_EQ(notified, QList<int>({3, 3}));
     results.setData(results.index(1, 0), std::numeric_limits<double>::quiet_NaN());
     EXPECT_EQ(failure(import), "Error while saving X.R00|Erreur lors de la sauvegarde de X.R00");
 }
@@ -317,10 +325,11 @@ TEST_F(ImportModule, no_column_behind_as_many_as_there_are_rows_is_taken_for_the
 }
 
 TEST_F(ImportModule, identifiers_that_are_numbers_lose_fraction_zeros_and_exponent) {
-    const QString texts = "12.7 -3.9 007 1e3 0.9 A-12 12,7 nan inf 1e40 3000000000 -2147483648 16777217";
+    const QString texts =
+        "12.7 -3.9 007 1e3 0.9 A-12 12,7 nan inf 1e40 3000000000 -2147483648 16777217 2147483648";
     store(texts.split(' '), "ids");
     EXPECT_EQ(sample("Source Rock-ids").rowNames.join(' ').remove("Sample "),
-              "12 -3 7 1000 0 A-12 12,7 nan inf 1e40 3000000000 -2147483648 16777216 Source Rock");
+              "12 -3 7 1000 0 A-12 12,7 nan inf 1e40 3000000000 -2147483648 16777216 2147483648 Source Rock");
 }
 
 TEST_F(ImportModule, each_row_with_an_identifier_becomes_a_sample_and_the_table_one_more) {

@@ -50,10 +50,14 @@ TEST_F(ImportRoads, raw_files_end_as_grades) {
 }
 
 TEST_F(ImportRoads, a_table_goes_through_the_wizard_into_the_tree_and_a_table_view) {
-    const ModalAnswers answers;
-    importFiles(Kind::SourceRock, {example("tables/source-rock.xlsx")});
-    EXPECT_EQ(errors(), QStringList());
-    EXPECT_EQ(answers.asked().size(), 1);
+    for (const QString answer : {"Cancel", "Import"}) {
+        EXPECT_TRUE(project().datasets().isEmpty());
+        const ModalAnswers answers({answer});
+        importFiles(Kind::SourceRock, {});
+        importAnew(Kind::SourceRock, {example("tables/source-rock.xlsx")});
+        EXPECT_EQ(errors(), QStringList());
+        EXPECT_EQ(answers.asked().size(), 1);
+    }
     const QString dataset = "Source Rock-source-rock.xlsx";
     EXPECT_EQ(sample(dataset).rowNames.value(0), "Sample ALB-01");
     const TechDB::SampleTable table = sample(dataset, "Source Rock");
@@ -77,18 +81,18 @@ TEST_F(ImportRoads, unknown_columns_become_parameters_once) {
     compound.setCompoundName("Pr/Ph");
     const QString id = catalogue.db(9)->addCompound(&compound, "-9999")->recordId();
     const QString file = path("custom.xlsx");
-    writeWorkbook(file, {"Sample", "Pr/Ph", "b<1>", "TOC (wt%)"}, {{"A", 0.8, 0.2, 3.5}});
+    writeWorkbook(file, {"Sample", "Pr/Ph", "x<b>1", "TOC (wt%)"}, {{"A", 0.8, 0.2, 3.5}});
     const ModalAnswers answers({"Overwrite", "Écraser"});
     importFiles(Kind::Custom, {file});
     EXPECT_TRUE(
-        informations().contains("Parameter(s) Pr/Ph, b<1> were(was) successfully added to  Vorn database"))
+        informations().contains("Parameter(s) Pr/Ph, x<b>1 were(was) successfully added to  Vorn database"))
         << informations().join("\n");
     EXPECT_EQ(warnings(), QStringList());
     EXPECT_NE(catalogue.db(9)->findPair(id, "none"), nullptr) << "of the compound there was";
     workbench->language().choose(LanguageSwitch::Language::French);
     importAnew(Kind::Custom, {file});
     EXPECT_TRUE(
-        warnings().contains("Le(s) paramètre(s) Pr/Ph, b<1> existe(nt) déjà en base de données Vorn "))
+        warnings().contains("Le(s) paramètre(s) Pr/Ph, x<b>1 existe(nt) déjà en base de données Vorn "))
         << warnings().join("\n");
 
     struct Custom : CustomImportCtrl {

@@ -89,8 +89,11 @@ TEST_F(BothRoads, agree_on_every_example_to_the_last_bit_and_word_and_wherever_t
     };
     expectAgreements();
     select({"double-noisy-01.S00"});
-    const std::pair<SliderScientific*, int> moves[] = {
-        {&sensitivity(), 60}, {&coelution(), 30}, {&height(), 450}};
+    const std::pair<SliderScientific*, int> moves[] = {{&sensitivity(), lastPosition(sensitivity())},
+                                                       {&coelution(), lastPosition(coelution())},
+                                                       {&sensitivity(), 60},
+                                                       {&coelution(), 30},
+                                                       {&height(), 450}};
     for (const auto& [slider, position] : moves) {
         move(*slider, position);
         expectAgreement(); // on screen already, it follows at once

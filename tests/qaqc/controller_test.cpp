@@ -57,8 +57,9 @@ TEST_F(Controller, unknown_names_are_passed_over_in_a_display_and_fail_as_a_colo
 }
 
 TEST_F(Controller, a_viewer_manager_cut_off_from_its_module_does_not_end_it) {
-    SourceRockQAQCCtrl second;
-    SourceRockQAQCViewer viewers(&second);
+    auto* const second = new SourceRockQAQCCtrl;
+    dynamic_cast<ModuleLauncher&>(*ModuleLauncherInterface::returnMe()).adopt(second);
+    SourceRockQAQCViewer viewers(second);
     viewers.closeViewers(); // harmless without any
     viewers.slotModuleClosing();
     viewers.slotViewerClosed();
