@@ -145,9 +145,9 @@ TEST_F(ImportModule, a_failed_file_goes_to_the_next_reader_and_a_done_one_stays_
     emit tree().dataDroppped(codes.keys());
     EXPECT_EQ(module.model(), codes);
     FakeReader::offers = 0;
-    import({"/bad.xlsx"});
+    import({"/bad.xlsx", "/good.xlsx"});
     EXPECT_EQ(module.model().value("/bad.xlsx"), 1) << "the second reader made something of it";
-    EXPECT_EQ(FakeReader::offers, 3) << "and the file that failed came again";
+    EXPECT_EQ(FakeReader::offers, 4) << "the file that failed came again, and a good one to the first alone";
     EXPECT_EQ(informations().filter("already"),
               QStringList("File /<b>&.xls was already imported|Le fichier /<b>&.xls a déjà été "
                           "importé"));
