@@ -11,6 +11,7 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include <algorithm>
 #include <memory>
 
 /// The workbench with an empty project and the example module in its ribbon.

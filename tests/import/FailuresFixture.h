@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QTreeView>
 
+#include <algorithm>
 #include <memory>
 
 /// The source-rock module, which takes tables and raw files, as who sees its list and the log.

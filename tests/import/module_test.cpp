@@ -106,7 +106,7 @@ protected:
     ImportModule() {
         QObject::connect(dynamic_cast<ApplicationHost*>(ApplicationInterface::returnMe()),
                          &ApplicationHost::projectChanged, [this](int change) { notified += change; });
-        module.readers = [this] {
+        module.readers = [] {
             return QList<VKImportInterface*>{new FakeReader(".xls"), new FakeReader(".xlsx")};
         };
     }
@@ -223,14 +223,14 @@ TEST_F(ImportModule, files_are_listed_by_name_and_status_and_deleted_by_their_ic
 TEST_F(ImportModule, to_the_end_only_deletions_are_heard) {
     auto second = std::make_unique<OpenModule>();
     second->model().insert("/x", 0);
-    QObject::connect(dynamic_cast<RibbonHost*>(RibbonInterface::returnMe()), &RibbonHost::removed,
+    const QObject context;
+    QObject::connect(dynamic_cast<RibbonHost*>(RibbonInterface::returnMe()), &RibbonHost::removed, &context,
                      [this, &files = second->model()](VKRibbonModuleBar* removed) {
-                         if (auto* const bar = dynamic_cast<VornEditor*>(removed); !files.isEmpty()) {
-                             emit bar->filesDropped({"/y"});
-                             emit bar->importAsked();
-                             emit bar->fileDelete("/x");
-                             EXPECT_TRUE(files.isEmpty() && workbench->log().rowCount() == 0);
-                         }
+                         auto* const bar = dynamic_cast<VornEditor*>(removed);
+                         emit bar->filesDropped({"/y"});
+                         emit bar->importAsked();
+                         emit bar->fileDelete("/x");
+                         EXPECT_TRUE(files.isEmpty() && workbench->log().rowCount() == 0);
                      });
     second.reset();
 }
