@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QLineEdit>
+#include <QTabWidget>
 #include <QTreeView>
 
 class ImportRoads : public ImportTest {
@@ -72,7 +73,10 @@ TEST_F(ImportRoads, a_table_goes_through_the_wizard_into_the_tree_and_a_table_vi
     tree().findChild<QLineEdit*>()->setText(dataset);
     tree().findChild<QTreeView*>()->selectAll();
     tree().openAction()->trigger();
-    EXPECT_NE(dynamic_cast<TableView*>(workspace().currentPage()), nullptr);
+    ASSERT_NE(dynamic_cast<TableView*>(workspace().currentPage()), nullptr);
+    workspace().currentPage()->setWindowTitle("R&D");
+    const auto* const tabs = workspace().findChild<QTabWidget*>();
+    EXPECT_EQ(tabs->tabText(tabs->currentIndex()), "R&&D") << "no key of its own";
 }
 
 TEST_F(ImportRoads, unknown_columns_become_parameters_once) {

@@ -46,11 +46,11 @@ TEST_F(ImportDatabase, takes_a_curve_into_the_project_once_and_under_a_free_name
     EXPECT_EQ(names(*project), QStringList("X.S00"));
     EXPECT_TRUE(says(told(MessageLevel::Information), "<b>X.S00</b> is in the project"));
     EXPECT_FALSE(project->canPushObject(project->getAnalysis("X.S00"), nullptr, nullptr, nullptr));
-    project->renameAnalysis(project->getAnalysis("X.S00")->key(), "Y.S00");
-    EXPECT_TRUE(stored("Y.S00", 7.0F) && stored("Y.S00", 7.0F));
-    EXPECT_EQ(names(*project), QStringList({"Y.S00", "Y.S00 (2)"}));
-    EXPECT_TRUE(
-        says(told(MessageLevel::Information), "<b>Y.S00</b> stands in the project as <b>Y.S00 (2)</b>"));
+    project->renameAnalysis(project->getAnalysis("X.S00")->key(), "100 %1.S00");
+    EXPECT_TRUE(stored("100 %1.S00", 7.0F) && stored("100 %1.S00", 7.0F) && stored("100 %1.S00", 8.0F));
+    EXPECT_EQ(names(*project), QStringList({"100 %1.S00", "100 %1.S00 (2)", "100 %1.S00 (3)"}));
+    EXPECT_TRUE(says(told(MessageLevel::Information),
+                     "<b>100 %1.S00</b> stands in the project as <b>100 %1.S00 (2)</b>"));
 }
 
 TEST_F(ImportDatabase, refuses_what_no_module_could_work_with_and_leaves_the_name_free) {

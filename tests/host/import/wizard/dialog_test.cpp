@@ -140,6 +140,7 @@ TEST_F(Wizard, shows_what_is_chosen) {
         dialog.findChild<QComboBox*>("identifier")->setCurrentIndex(2);
         dialog.findChild<QSpinBox*>("firstDataRow")->setValue(3);
         EXPECT_EQ(preview->model()->headerData(1, Qt::Horizontal), "B\nTOC (%)");
+        EXPECT_EQ(shown(2, 1).data(Qt::ToolTipRole), "<span>&lt;1</span>") << "no markup of the file's";
 
         // The list of choices opens over its cell; Return in it chooses and does not import.
         columns->setCurrentIndex(columns->model()->index(1, 3));
