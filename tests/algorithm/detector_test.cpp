@@ -95,8 +95,9 @@ TEST(Detector, a_noise_law_of_amplitudes_rejects_what_does_not_stand_out) {
     const auto tops = [&](double scale, double factor) {
         Detector detector = detectorOf(signal, 10, Noise(0, 1e9, 1, 0, scale));
         detector.parameters.setValue("signalNoiseFactor", factor);
+        const auto chromatogram = detector.detect(signal, nullptr);
         std::string found;
-        for (const Peak& peak : detector.detect(signal, nullptr)->peaks()) {
+        for (const Peak& peak : chromatogram->peaks()) {
             found += peak.top()->index == 60 ? "big " : (peak.top()->index == 140 ? "small" : "");
         }
         return found;
