@@ -5,9 +5,9 @@
 
 #include <optional>
 
-/// The raw file that was read last and the curve it gave. Between a reader and the project stand modules that
-/// pass on points alone; whoever stores a curve asks here where it comes from, and is answered if it is this
-/// one, bit for bit. Interface thread only.
+/// The raw file that was read last and the curve it gave: what `ImportRockEvalVI` leaves for
+/// `VKDatabaseImport`, between which stand modules that pass on points alone. Whoever stores a curve asks
+/// here where it comes from, and is answered if it is this one, bit for bit. Interface thread only.
 class LastReadCurve {
 public:
     static LastReadCurve& returnMe();
