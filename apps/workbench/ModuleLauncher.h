@@ -30,7 +30,6 @@ public:
     /// Saves what the modules have to save and ends them before it returns; not for a module's own slots.
     /// False, with all of them open, if one could not save.
     bool closeAll();
-    int openCount() const { return m_modules.size(); }
 
 private:
     struct Module {

@@ -17,12 +17,10 @@ public:
     /// Whether the delete key takes the selected items out of the list (the project keeps what they stand
     /// for).
     void setUseKeyPress(bool use) { m_usesKeyPress = use; }
-    bool usesKeyPress() const { return m_usesKeyPress; }
 
     /// Whether the list itself accepts a drag of objects that it can show, and adds what is dropped. If not,
     /// the listeners of the signals of VKTreeWidget decide.
     void setAutoMode(bool automatic) { m_automatic = automatic; }
-    bool isAutoMode() const { return m_automatic; }
 
     /// Adds an item at the end; null for an object that this list doesn't show, or for no object.
     QTreeWidgetItem* addObject(const VKObject2* object);

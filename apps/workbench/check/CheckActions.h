@@ -30,7 +30,6 @@ public:
     QMenu* menu() const { return m_menu.get(); }
     QMenu* filterMenu() const { return m_filterMenu.get(); }
     QAction* nextAction() const { return m_next; }
-    QAction* previousAction() const { return m_previous; }
     QAction* selectAction(gradereport::GradeKind kind) const { return m_select[place(kind)]; }
     QAction* onlyAction(gradereport::GradeKind kind) const { return m_only[place(kind)]; }
     QAction* allAction() const { return m_all; }

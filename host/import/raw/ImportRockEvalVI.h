@@ -52,7 +52,6 @@ private:
     void read();
     void readContent();
     QByteArray content();
-    QString shownName() const;
 
     QString m_name;
     std::unique_ptr<TFileBuffer> m_buffer;

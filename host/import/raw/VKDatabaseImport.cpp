@@ -67,6 +67,17 @@ TAnalysisData curveOf(const QList<float*>& channels, int count, int abscissa, in
     return {values(abscissa), values(ordinate)};
 }
 
+const VKObject2Analysis* storedWithOrigin(TechDB::TDatabase& project, const QString& name,
+                                          const QString& analysisType, const TAnalysisData& curve) {
+    Transaction transaction(project);
+    const VKObject2Analysis* const stored = project.addAnalysisOnce(name, analysisType, curve);
+    if (const auto origin = LastReadCurve::returnMe().originOf(curve)) {
+        project.setOrigin(stored->key(), *origin);
+    }
+    transaction.commit();
+    return stored;
+}
+
 } // namespace
 
 std::unique_ptr<VKDatabaseImport> VKDatabaseImport::open(const QString& folder) {
@@ -326,21 +337,6 @@ void VKDatabaseImport::save(const QString& name) {
     m_written.erase(written);
     m_givenOut.remove(name);
 }
-
-namespace {
-
-const VKObject2Analysis* storedWithOrigin(TechDB::TDatabase& project, const QString& name,
-                                          const QString& analysisType, const TAnalysisData& curve) {
-    Transaction transaction(project);
-    const VKObject2Analysis* const stored = project.addAnalysisOnce(name, analysisType, curve);
-    if (const auto origin = LastReadCurve::returnMe().originOf(curve)) {
-        project.setOrigin(stored->key(), *origin);
-    }
-    transaction.commit();
-    return stored;
-}
-
-} // namespace
 
 void VKDatabaseImport::push(TechDB::TDatabase* project, const VKObject2* object) {
     const auto* const analysis = dynamic_cast<const VKObject2Analysis*>(object);

@@ -1,5 +1,6 @@
 #include "WorkbookReader.h"
 
+#include "CompoundFile.h"
 #include "VKError.h"
 #include "XlsReader.h"
 #include "XlsxReader.h"
@@ -7,20 +8,15 @@
 namespace {
 
 constexpr char zipMagic[] = "PK\x03\x04";
-constexpr char compoundMagic[] = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 
 bool isZip(const QByteArray& bytes) {
     return bytes.startsWith(zipMagic);
 }
 
-bool isCompound(const QByteArray& bytes) {
-    return bytes.startsWith(compoundMagic);
-}
-
 } // namespace
 
 bool WorkbookReader::looksLikeWorkbook(const QByteArray& beginning) {
-    return isZip(beginning) || isCompound(beginning);
+    return isZip(beginning) || CompoundFile::hasSignature(beginning);
 }
 
 Workbook::Book WorkbookReader::read(const QByteArray& bytes, const QString& fileName,
@@ -28,7 +24,7 @@ Workbook::Book WorkbookReader::read(const QByteArray& bytes, const QString& file
     if (isZip(bytes)) {
         return XlsxReader::read(bytes, fileName, limits);
     }
-    if (isCompound(bytes)) {
+    if (CompoundFile::hasSignature(bytes)) {
         return XlsReader::read(bytes, fileName, limits);
     }
     refuse(fileName,

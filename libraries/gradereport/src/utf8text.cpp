@@ -1,5 +1,7 @@
 #include "gradereport/utf8text.h"
 
+#include "utf8/codepoint.h"
+
 #include <algorithm>
 #include <array>
 #include <vector>
@@ -8,14 +10,9 @@ namespace gradereport {
 
 namespace {
 
-constexpr char32_t replacement = 0xFFFD;
-constexpr std::string_view ellipsis = "\u2026";
+using utf8::CodePoint;
 
-/// One code point of a text and the bytes it takes there; an invalid byte counts as U+FFFD of one byte.
-struct Letter {
-    char32_t code = replacement;
-    std::size_t bytes = 1;
-};
+constexpr std::string_view ellipsis = "\u2026";
 
 struct Range {
     char32_t first;
@@ -45,56 +42,9 @@ bool isIn(const std::array<Range, count>& ranges, char32_t code) {
                        [code](const Range& range) { return code >= range.first && code <= range.last; });
 }
 
-/// Length of the sequence a first byte announces, and the least code point that needs this length.
-struct Announced {
-    std::size_t bytes;
-    char32_t bits;
-    char32_t least;
-};
-
-Announced announced(unsigned char first) {
-    if (first < 0x80)
-        return {1, first, 0};
-    if (first >= 0xC2 && first < 0xE0)
-        return {2, first & 0x1FU, 0x80};
-    if (first >= 0xE0 && first < 0xF0)
-        return {3, first & 0x0FU, 0x800};
-    if (first >= 0xF0 && first < 0xF5)
-        return {4, first & 0x07U, 0x10000};
-    return {0, 0, 0};
-}
-
-Letter letterAt(std::string_view text, std::size_t position) {
-    const Announced head = announced(static_cast<unsigned char>(text[position]));
-    if (head.bytes == 0 || head.bytes > text.size() - position)
-        return {};
-    char32_t code = head.bits;
-    for (std::size_t i = 1; i < head.bytes; ++i) {
-        const auto byte = static_cast<unsigned char>(text[position + i]);
-        if ((byte & 0xC0U) != 0x80U)
-            return {};
-        code = (code << 6U) | (byte & 0x3FU);
-    }
-    const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-    if (code < head.least || code > 0x10FFFF || surrogate)
-        return {};
-    return {code, head.bytes};
-}
-
-void appendUtf8(std::string& out, char32_t code) {
-    const auto tail = [code](unsigned shift) { return static_cast<char>(0x80U | ((code >> shift) & 0x3FU)); };
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-    } else if (code < 0x800) {
-        out += static_cast<char>(0xC0U | (code >> 6U));
-        out += tail(0);
-    } else if (code < 0x10000) {
-        out += static_cast<char>(0xE0U | (code >> 12U));
-        out += {tail(6), tail(0)};
-    } else {
-        out += static_cast<char>(0xF0U | (code >> 18U));
-        out += {tail(12), tail(6), tail(0)};
-    }
+/// An invalid byte counts as a code point of its own.
+CodePoint letterAt(std::string_view text, std::size_t position) {
+    return utf8::front(text.substr(position)).value_or(CodePoint{utf8::replacement, 1});
 }
 
 /// The text with every code point replaced by what `map` makes of it.
@@ -103,8 +53,8 @@ std::string mapped(std::string_view text, Map map) {
     std::string out;
     out.reserve(text.size());
     for (std::size_t position = 0; position < text.size();) {
-        const Letter letter = letterAt(text, position);
-        appendUtf8(out, map(letter.code));
+        const CodePoint letter = letterAt(text, position);
+        utf8::append(out, map(letter.value));
         position += letter.bytes;
     }
     return out;
@@ -118,7 +68,7 @@ char32_t visibleCode(char32_t code) {
         return 0x2421;
     const bool control = code >= 0x80 && code <= 0x9F;
     const bool reorders = (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
-    return control || reorders ? replacement : code;
+    return control || reorders ? utf8::replacement : code;
 }
 
 std::size_t widthOf(char32_t code) {
@@ -131,8 +81,8 @@ std::size_t widthOf(char32_t code) {
 std::size_t headBytes(std::string_view text, std::size_t width) {
     std::size_t position = 0;
     for (std::size_t used = 0; position < text.size();) {
-        const Letter letter = letterAt(text, position);
-        used += widthOf(letter.code);
+        const CodePoint letter = letterAt(text, position);
+        used += widthOf(letter.value);
         if (used > width)
             break;
         position += letter.bytes;
@@ -142,13 +92,13 @@ std::size_t headBytes(std::string_view text, std::size_t width) {
 
 /// Where the longest end of the text begins that is at most `width` columns wide.
 std::size_t tailStart(std::string_view text, std::size_t width) {
-    std::vector<Letter> letters;
+    std::vector<CodePoint> letters;
     for (std::size_t position = 0; position < text.size(); position += letters.back().bytes)
         letters.push_back(letterAt(text, position));
     std::size_t start = text.size();
     std::size_t used = 0;
     for (auto letter = letters.rbegin(); letter != letters.rend(); ++letter) {
-        used += widthOf(letter->code);
+        used += widthOf(letter->value);
         if (used > width)
             break;
         start -= letter->bytes;
@@ -169,8 +119,8 @@ std::string visibleText(std::string_view text) {
 std::size_t displayWidth(std::string_view text) {
     std::size_t width = 0;
     for (std::size_t position = 0; position < text.size();) {
-        const Letter letter = letterAt(text, position);
-        width += widthOf(letter.code);
+        const CodePoint letter = letterAt(text, position);
+        width += widthOf(letter.value);
         position += letter.bytes;
     }
     return width;
