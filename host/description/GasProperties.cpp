@@ -11,8 +11,6 @@ namespace {
 constexpr auto molePercent =
     "%|mol %|mol.%|mol. %|% mol|%mol|mole %|mole%|% mole|% molaire|% mol.|vol%|vol %|vol.%|"
     "vol. %|% vol|%vol|% vol.|% v/v|%v/v|% volume|pct|percent|pourcent";
-constexpr auto vpdb = "‰ PDB|‰ V-PDB|‰VPDB|‰PDB|‰|permil|per mil|per mille|pour mille|permil VPDB|‰ vs VPDB|"
-                      "‰ vs PDB|o/oo|0/00";
 constexpr auto vsmow = "‰ SMOW|‰ V-SMOW|‰VSMOW|‰SMOW|‰|permil|per mil|per mille|pour mille|permil VSMOW|"
                        "‰ vs VSMOW|‰ vs SMOW|o/oo|0/00";
 
@@ -56,7 +54,7 @@ QStringList spellings(const Gas& gas, std::initializer_list<const char*> isotope
 
 TKnownProperty carbonIsotopes(const Gas& gas) {
     TKnownProperty property =
-        PropertyRow{"", "", "", "", "‰ VPDB", vpdb, ""}.property(TKnownProperty::Family::Gas);
+        PropertyRow{"", "", "", "", "‰ VPDB", PropertyRow::vpdb, ""}.property(TKnownProperty::Family::Gas);
     property.key = QStringLiteral("gas.d13c.%1").arg(gas.key);
     property.label = QStringLiteral("δ13C %1").arg(gas.label);
     property.english = QStringLiteral("Carbon isotopes of %1").arg(gas.english);
@@ -221,7 +219,7 @@ QVector<TKnownProperty> all() {
          "‰ Air", "‰ AIR|‰ air|‰ vs air|‰ atm|‰|permil|per mil|per mille|pour mille|o/oo|0/00",
          "d15n|delta15n|delta15nn2|dn15|dn15n2|15nn2|n2d15n|d15nnitrogen|d15nazote"},
         {"gas.d18o.co2", "δ18O CO2", "Oxygen isotopes of carbon dioxide", "Isotopes de l'oxygène du dioxyde de carbone",
-         "‰ VPDB", vpdb,
+         "‰ VPDB", PropertyRow::vpdb,
          "d18oco2|delta18oco2|co2d18o|18oco2"},
         {"gas.d34s.h2s", "δ34S H2S", "Sulfur isotopes of hydrogen sulfide", "Isotopes du soufre du sulfure d'hydrogène",
          "‰ VCDT", "‰ CDT|‰ V-CDT|‰|permil|per mil|per mille|pour mille|o/oo|0/00",

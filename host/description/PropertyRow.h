@@ -14,4 +14,9 @@ struct PropertyRow {
     const char* aliases;
 
     TKnownProperty property(TKnownProperty::Family family) const;
+
+    /// Other ways to write "‰ VPDB", the unit of carbon and oxygen isotopes.
+    static constexpr auto vpdb =
+        "‰ PDB|‰ V-PDB|‰VPDB|‰PDB|‰|permil|per mil|per mille|pour mille|permil VPDB|‰ vs VPDB|"
+        "‰ vs PDB|o/oo|0/00";
 };

@@ -20,8 +20,6 @@ constexpr auto carbonMonoxide =
     "mg.g-1|mg g-1";
 constexpr auto celsius =
     "C|deg C|degC|deg. C|º C|ºC|˚C|° C|℃|celsius|degrees C|degrees celsius|degrés C|degrés celsius";
-constexpr auto vpdb = "‰ PDB|‰ V-PDB|‰VPDB|‰PDB|‰|permil|per mil|per mille|pour mille|permil VPDB|‰ vs VPDB|"
-                      "‰ vs PDB|o/oo|0/00";
 
 } // namespace
 
@@ -139,7 +137,7 @@ QVector<TKnownProperty> all() {
          "", "",
          "kerogen|kerogene|typekerogene"},
         {"d13corg", "δ13C org", "Carbon isotopes of organic matter", "Isotopes du carbone de la matière organique",
-         "‰ VPDB", vpdb,
+         "‰ VPDB", PropertyRow::vpdb,
          "d13ctoc|d13corganic|d13corganique|d13ckerogen|d13ckerogene|delta13corg|delta13corganic|"
          "delta13ckerogen|delta13ctoc"},
     };
